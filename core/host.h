@@ -1,0 +1,51 @@
+#pragma once
+// The one way logic reaches the person: message boxes, file and colour dialogs, yields.
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/colors.h"
+
+namespace quillane {
+
+enum class MessageIcon { None, Information, Warning, Question, Critical };
+enum class MessageButtons { OK, OKCancel, YesNo, YesNoCancel };
+enum class Answer { OK, Cancel, Yes, No };
+
+struct FileFilter {
+    std::string description;  // "Iterated Function Systems (*.ifs)"
+    std::string pattern;      // "*.ifs"
+};
+
+struct FileDialogRequest {
+    std::string title;
+    std::vector<FileFilter> filters;
+    std::string initialName;  // preset file name (save dialogs)
+    // Dialogs that share a key share the remembered folder.
+    std::string folderKey;
+};
+
+class Host {
+public:
+    virtual ~Host() = default;
+    // A modal box; returns the button pressed. Lines are separated by "\n".
+    virtual Answer message(MessageIcon icon, const std::string& title, const std::string& text,
+                           MessageButtons buttons) = 0;
+    // The name chosen, or nothing on Cancel.
+    virtual std::optional<std::string> openFileName(const FileDialogRequest& request) = 0;
+    virtual std::optional<std::string> saveFileName(const FileDialogRequest& request) = 0;
+    virtual std::optional<Color> chooseColor(Color initial) = 0;
+    // Lets the interface handle events; long loops call it at their yield points.
+    virtual void yield() = 0;
+
+    // The usual warning box with an OK button.
+    void warn(const std::string& title, const std::string& text) {
+        message(MessageIcon::Warning, title, text, MessageButtons::OK);
+    }
+    void inform(const std::string& title, const std::string& text) {
+        message(MessageIcon::Information, title, text, MessageButtons::OK);
+    }
+};
+
+}  // namespace quillane

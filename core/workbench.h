@@ -1,0 +1,109 @@
+#pragma once
+// The program-wide state, under the system's own names. There are no globals:
+// each window, command and test works on one Workbench.
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/colors.h"
+#include "core/ifs_entry.h"
+#include "core/menu_state.h"
+#include "core/random.h"
+
+namespace quillane {
+
+struct WorldWindow {
+    float xmin = 0, xmax = 0, ymin = 0, ymax = 0;
+    bool operator==(const WorldWindow&) const = default;
+};
+
+inline constexpr int RecentFileSlots = 6;
+
+class Workbench {
+public:
+    Workbench();
+
+    // The model.
+    IFSEntry CurrentIFS;
+    IFSEntry SavedIFS;
+    std::vector<IFSEntry> FractalList;  // entries 1..30; slot 0 unused
+    int16_t SelectedIFS = 0;
+    int16_t SelectedMap = 0;
+    bool MapSelected = false;
+    bool CGMapSelected = false;
+    bool IFSModified = false;
+    int16_t ChangeCount = 0;
+    bool ListModified = false;
+    int16_t DesignMode = 0;          // 0 IFS, 1 chaos game
+    int16_t CodeForm = 0;            // 0 matrix, 1 scale and rotation, 2 fixed point
+    int16_t MatrixFunctionForm = 0;  // within CodeForm 0: 0 compact, 1 function form
+
+    // Colours.
+    FunctionColors FunctionColor{};
+    FunctionColors FileColors{};
+    FunctionColors FunctionColorDefaults{};
+    TilingColors TilingColor{};
+    TilingColors TilingFileColors{};
+    TilingColors TilingColorDefaults{};
+    Color FractalBackColor = White;
+    Color DesignBackColor = White;
+    Color FractalAxisColor = Black;
+    Color DesignAxisColor = Black;
+
+    // Drawing state that outlives a run.
+    bool DrawingActive = false;
+    bool DrawingStarted = false;
+    bool RandomMode = true;
+    int32_t PointCount = 0;
+    float PlotX = 0, PlotY = 0;
+    int32_t IterationNumber = 0;
+    int16_t DetFigure = 0;
+    std::array<bool, 4> RecursionOff{};
+    std::string FractalCaption = "Fractal (Random)";
+
+    // View.
+    WorldWindow Window;  // the fractal window's WorldWindow
+    float AttractorXMin = 0, AttractorXMax = 0, AttractorYMin = 0, AttractorYMax = 0;
+    WorldWindow UndoWindow;
+    WorldWindow FitWindow;
+
+    // Texts that logic reads and writes in windows: the function table, the frame, the fractal window.
+    std::string FunctionsCaption = "IFS [Untitled]";  // frmfunctions caption
+    std::string txtMaps = "1";
+    std::array<std::string, 4> txtWin;  // ymax, ymin, xmin, xmax, "0.000"
+    std::string lblProbSum = "1.000";
+    std::string FrameCaption = "Quillane";
+    std::string FractalWindowCaption = "Fractal (Random)";
+    // The five flags of the function table that remember a recursive generator drew the IFS.
+    std::array<bool, 5> TableRecursionFlags{};
+
+    // Files and settings.
+    std::string IFSFileName;  // the list's file, empty when none is loaded
+    std::array<std::string, RecentFileSlots> RecentFiles;
+    int RecentFileCount = 0;
+    bool SettingsChanged = false;
+
+    // Number of mnuNames items loaded: 4 for an empty list, 5 + n for n entries.
+    int NamesItemCount = 4;
+    int ListCount() const { return NamesItemCount >= 5 ? NamesItemCount - 5 : 0; }
+
+    MenuTable Menu;
+    const MenuItemState& menu(const std::string& key) const { return Menu(key); }
+
+    Random Rng;
+
+    // The count of functions as the table's box says (how every drawing loop reads it).
+    int mapsFromText() const;
+};
+
+// The save test of every command that replaces CurrentIFS.
+bool NeedsSave(const Workbench& wb);
+// Marks or unmarks the table caption with "*" after ChangeCount.
+void AddAsterickToName(Workbench& wb);
+// One counted edit of CurrentIFS: ChangeCount + 1, IFSModified, asterisk.
+void CountEdit(Workbench& wb);
+// The window boxes txtWin from the WorldWindow.
+void WriteWindowText(Workbench& wb);
+
+}  // namespace quillane
