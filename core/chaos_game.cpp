@@ -76,12 +76,14 @@ void CGMatrix(Workbench& wb, int i) {
 double PropProbOf(IFSEntry& ifs) {
     const int n = ifs.nMaps;
     double total = 0;
-    for (int i = 0; i < n; ++i) total += std::fabs(static_cast<double>(ifs.d[i]) * ifs.a[i] -
-                                                   static_cast<double>(ifs.c[i]) * ifs.b[i]);
+    for (int i = 0; i < n; ++i)
+        total +=
+            std::fabs(static_cast<double>(ifs.d[i]) * ifs.a[i] - static_cast<double>(ifs.c[i]) * ifs.b[i]);
     if (total == 0) total = 1;
     double sum = 0;
     for (int i = 0; i < n; ++i) {
-        double w = std::fabs(static_cast<double>(ifs.d[i]) * ifs.a[i] - static_cast<double>(ifs.c[i]) * ifs.b[i]);
+        double w =
+            std::fabs(static_cast<double>(ifs.d[i]) * ifs.a[i] - static_cast<double>(ifs.c[i]) * ifs.b[i]);
         double q = Round(w / total, 6);
         if (Round(q, 3) == 0) q = 0.01;
         ifs.p[i] = static_cast<float>(q);

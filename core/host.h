@@ -27,7 +27,7 @@ struct FileDialogRequest {
 };
 
 class Host {
-public:
+  public:
     virtual ~Host() = default;
     // A modal box; returns the button pressed. Lines are separated by "\n".
     virtual Answer message(MessageIcon icon, const std::string& title, const std::string& text,

@@ -6,10 +6,10 @@
 
 namespace quillane {
 
-inline constexpr int MaxMaps = 100;       // what the interface allows in one IFS
-inline constexpr int MapSlots = 101;      // slots 0..100 of every per-function array
-inline constexpr int MaxFractals = 30;    // FractalList entries 1..30
-inline constexpr int MaxComments = 20;    // Comment(1..20)
+inline constexpr int MaxMaps = 100;     // what the interface allows in one IFS
+inline constexpr int MapSlots = 101;    // slots 0..100 of every per-function array
+inline constexpr int MaxFractals = 30;  // FractalList entries 1..30
+inline constexpr int MaxComments = 20;  // Comment(1..20)
 inline constexpr int CommentSlotLength = 100;
 inline constexpr int MaxMatrixFunctionForm = 35;
 

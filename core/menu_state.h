@@ -17,7 +17,7 @@ struct MenuItemState {
 };
 
 class MenuTable {
-public:
+  public:
     // The key of an indexed item: MenuKey("mnuColors", 2) is "mnuColors(2)".
     static std::string key(const std::string& name, int index);
 
@@ -37,7 +37,7 @@ public:
 
     const std::map<std::string, MenuItemState>& items() const { return items_; }
 
-private:
+  private:
     void changed(const std::string& key);
     std::map<std::string, MenuItemState> items_;
 };

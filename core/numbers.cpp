@@ -8,8 +8,12 @@
 namespace quillane {
 
 namespace {
-bool isBlank(char ch) { return ch == ' ' || ch == '\t'; }
-bool isDigit(char ch) { return ch >= '0' && ch <= '9'; }
+bool isBlank(char ch) {
+    return ch == ' ' || ch == '\t';
+}
+bool isDigit(char ch) {
+    return ch >= '0' && ch <= '9';
+}
 
 // Next character that is not a blank or tab, from position i.
 size_t skipBlanks(std::string_view t, size_t i) {
@@ -60,7 +64,8 @@ double Val(std::string_view text) {
         if (expDigit) digits += exponent;
     }
     double v = std::strtod(digits.c_str(), nullptr);
-    if (!std::isfinite(v)) return v > 0 ? std::numeric_limits<double>::max() : -std::numeric_limits<double>::max();
+    if (!std::isfinite(v))
+        return v > 0 ? std::numeric_limits<double>::max() : -std::numeric_limits<double>::max();
     return v;
 }
 
@@ -81,7 +86,9 @@ int32_t CLng(double x) {
     return static_cast<int32_t>(r);
 }
 
-int32_t CInt(double x) { return CLng(x); }
+int32_t CInt(double x) {
+    return CLng(x);
+}
 
 std::string Format(double x, std::string_view pattern) {
     // Split the pattern into prefix, number field and suffix.
@@ -140,8 +147,12 @@ std::string strWithDigits(double x, int digits) {
 }
 }  // namespace
 
-std::string Str(float x) { return strWithDigits(static_cast<double>(x), 7); }
-std::string StrD(double x) { return strWithDigits(x, 15); }
+std::string Str(float x) {
+    return strWithDigits(static_cast<double>(x), 7);
+}
+std::string StrD(double x) {
+    return strWithDigits(x, 15);
+}
 
 double AngleOf(double x, double y) {
     if (x == 0) return Sgn(y) * 90.0;
@@ -162,7 +173,9 @@ std::string RTrim(std::string_view s) {
     return std::string(s.substr(0, n));
 }
 
-std::string Trim(std::string_view s) { return LTrim(RTrim(s)); }
+std::string Trim(std::string_view s) {
+    return LTrim(RTrim(s));
+}
 
 std::string ToLower(std::string_view s) {
     std::string r(s);

@@ -38,7 +38,9 @@ std::string Str(float x);
 std::string StrD(double x);
 
 // Sign as -1, 0 or 1.
-inline int Sgn(double x) { return x > 0 ? 1 : (x < 0 ? -1 : 0); }
+inline int Sgn(double x) {
+    return x > 0 ? 1 : (x < 0 ? -1 : 0);
+}
 
 // Angle of the vector (x, y) in degrees, in (-180, 180].
 double AngleOf(double x, double y);

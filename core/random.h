@@ -7,12 +7,15 @@
 namespace quillane {
 
 class Random {
-public:
+  public:
     Random();  // pins the seed from QUILLANE_SEED when that is set
     // Reseeds from the clock, or from the pinned seed.
     void Randomize();
     void seed(uint64_t s);
-    void pin(uint64_t s) { pinned_ = s; seed(s); }
+    void pin(uint64_t s) {
+        pinned_ = s;
+        seed(s);
+    }
     void unpin() { pinned_.reset(); }
     std::optional<uint64_t> pinned() const { return pinned_; }
 
@@ -28,10 +31,13 @@ public:
         s_[3] = rotl(s_[3], 45);
         return result;
     }
-    // A value in [0, 1) with 53 random bits.
-    double Rnd() { return static_cast<double>(next() >> 11) * 0x1.0p-53; }
+    // Next 32 random bits: the best bits of the generator.
+    uint32_t next32() { return static_cast<uint32_t>(next() >> 32); }
+    // A value in [0, 1): next32() / 2^32. The resolution of 32 bits lets the drawing loop
+    // round draws in integers with exactly the result of rounding this value.
+    double Rnd() { return static_cast<double>(next32()) * 0x1.0p-32; }
 
-private:
+  private:
     static uint64_t rotl(uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
     uint64_t s_[4];
     std::optional<uint64_t> pinned_;

@@ -11,7 +11,7 @@ Answer ScriptedHost::message(MessageIcon icon, const std::string& title, const s
         return a;
     }
     return (buttons == MessageButtons::YesNo || buttons == MessageButtons::YesNoCancel) ? Answer::Yes
-                                                                                         : Answer::OK;
+                                                                                        : Answer::OK;
 }
 
 std::optional<std::string> ScriptedHost::nextFileName(const FileDialogRequest& request) {

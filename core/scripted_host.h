@@ -17,7 +17,7 @@ struct ShownMessage {
 };
 
 class ScriptedHost : public Host {
-public:
+  public:
     // Answers for the next boxes; when empty a box gets its default (OK or Yes).
     std::deque<Answer> answers;
     // Names for the next file dialogs; an empty optional stands for Cancel.
@@ -36,9 +36,12 @@ public:
     const std::vector<ShownMessage>& shown() const { return shown_; }
     const std::vector<FileDialogRequest>& dialogs() const { return dialogs_; }
     int yields() const { return yields_; }
-    void clear() { shown_.clear(); dialogs_.clear(); }
+    void clear() {
+        shown_.clear();
+        dialogs_.clear();
+    }
 
-private:
+  private:
     std::optional<std::string> nextFileName(const FileDialogRequest& request);
     std::vector<ShownMessage> shown_;
     std::vector<FileDialogRequest> dialogs_;

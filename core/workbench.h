@@ -21,7 +21,7 @@ struct WorldWindow {
 inline constexpr int RecentFileSlots = 6;
 
 class Workbench {
-public:
+  public:
     Workbench();
 
     // The model.

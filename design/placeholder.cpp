@@ -1,4 +1,6 @@
 namespace quillane {
 // Keeps the library linkable until its first unit arrives.
-int designLayerVersion() { return 1; }
+int designLayerVersion() {
+    return 1;
+}
 }  // namespace quillane

@@ -1,4 +1,6 @@
 namespace quillane {
 // Keeps the library linkable until its first unit arrives.
-int moviesLayerVersion() { return 1; }
+int moviesLayerVersion() {
+    return 1;
+}
 }  // namespace quillane

@@ -1,0 +1,43 @@
+#pragma once
+// Parsing of the command line: what each command was asked to do, or a usage error.
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/workbench.h"
+
+namespace quillane::cli {
+
+struct RenderOptions {
+    std::string file;
+    int entry = 1;
+    int points = 100000;
+    int size = 800;
+    std::optional<uint64_t> seed;
+    std::optional<WorldWindow> window;
+    std::string output;
+};
+
+struct BenchOptions {
+    int points = 50000000;
+    int size = 1000;
+};
+
+struct Command {
+    enum Kind { Help, List, Save, Render, Bench } kind = Help;
+    std::vector<std::string> files;  // list: FILE; save: IN OUT
+    RenderOptions render;
+    BenchOptions bench;
+};
+
+// The parsed command, or the text of a usage error.
+struct ParseResult {
+    std::optional<Command> command;
+    std::string error;
+};
+
+ParseResult ParseCommandLine(const std::vector<std::string>& args);
+
+extern const char* const UsageText;
+
+}  // namespace quillane::cli

@@ -1,0 +1,49 @@
+#pragma once
+// The frame window's menus and toolbar as plain data. The shell builds its menus from these trees,
+// and the logic and the tests read captions and initial states without a window.
+#include <string>
+#include <vector>
+
+#include "core/menu_state.h"
+
+namespace quillane {
+
+struct MenuNode {
+    std::string name;
+    int index = -1;  // -1: not an array item
+    std::string caption;
+    std::string shortcut;  // portable key text such as "Ctrl+O", "F5", "Shift+Del"; empty for none
+    bool separatorBefore = false;
+    bool checkable = false;
+    // A run of radio siblings with no separator between them is one exclusive group.
+    bool radio = false;
+    bool visible = true;
+    std::vector<MenuNode> children;
+
+    // "mnuOpen", or "mnuColors(2)" for an array item.
+    std::string key() const;
+};
+
+// The menu bar of the frame window, left to right.
+const std::vector<MenuNode>& MainMenuTree();
+
+// `mnuPopup` (pictures) and `mnuPicPastePopUpMenu` (a pasted picture being placed).
+const std::vector<MenuNode>& PopupMenus();
+
+struct ToolbarButton {
+    std::string key;
+    std::string toolTip;
+};
+
+const std::vector<ToolbarButton>& MainToolbarButtons();
+
+// Writes every item of both trees into the table, then the states the program starts with.
+void InitializeMenuState(MenuTable& table);
+
+// The node with this key in the menu bar or the pop-up menus, or nullptr.
+const MenuNode* FindMenuNode(const std::string& key);
+
+// The keys of the exclusive group the item belongs to, in menu order; empty when it is not a radio item.
+std::vector<std::string> RadioGroupKeys(const std::string& key);
+
+}  // namespace quillane

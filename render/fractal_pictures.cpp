@@ -1,0 +1,61 @@
+#include "render/fractal_pictures.h"
+
+#include "core/numbers.h"
+#include "render/scale.h"
+
+namespace quillane {
+
+void FractalPictures::resize(int side, Color back) {
+    for (RasterSurface* s :
+         {&picfractal, &picImage2, &picImage3, &picImageShift, &picImage, &picMask, &picImage4}) {
+        s->setBackColor(back);
+        s->resize(side, side);
+    }
+}
+
+void ApplyWindow(FractalPictures& pics, const WorldWindow& w) {
+    for (RasterSurface* s : {&pics.picfractal, &pics.picImage2, &pics.picImage3, &pics.picImageShift,
+                             &pics.picImage, &pics.picMask, &pics.picImage4}) {
+        s->setScale(w.xmin, w.ymax, w.xmax, w.ymin);
+    }
+}
+
+void ScalefrmFractalWindows(Workbench& wb, FractalPictures& pics, float& xmin, float& xmax, float& ymin,
+                            float& ymax, bool AddMargin) {
+    const float tymax = static_cast<float>(Val(wb.txtWin[0]));
+    const float tymin = static_cast<float>(Val(wb.txtWin[1]));
+    const float txmin = static_cast<float>(Val(wb.txtWin[2]));
+    const float txmax = static_cast<float>(Val(wb.txtWin[3]));
+    const bool inside = xmin >= txmin && xmax <= txmax && ymin >= tymin && ymax <= tymax;
+    if (inside) {
+        xmin = txmin;
+        xmax = txmax;
+        ymin = tymin;
+        ymax = tymax;
+    } else {
+        if (txmin < xmin) xmin = txmin;
+        if (txmax > xmax) xmax = txmax;
+        if (tymin < ymin) ymin = tymin;
+        if (tymax > ymax) ymax = tymax;
+        SquareWindow(xmin, xmax, ymin, ymax);
+        if (AddMargin) AddWindowMargin(xmin, xmax, ymin, ymax);
+    }
+    wb.Window = {xmin, xmax, ymin, ymax};
+    if (!inside) WriteWindowText(wb);
+    const int side = pics.picfractal.width();
+    pics.resize(side, pics.picfractal.backColor());
+    ApplyWindow(pics, wb.Window);
+}
+
+void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
+    for (RasterSurface* s :
+         {&pics.picfractal, &pics.picImage, &pics.picImage2, &pics.picMask, &pics.picImageShift})
+        s->clear();
+    wb.DrawingActive = false;
+    wb.PointCount = 0;
+    pics.picCount.clear();
+    wb.Menu.setCaption("mnuZoom", ZoomInCaption);
+    if (!KeepPicture) pics.PictureOverlaid = false;
+}
+
+}  // namespace quillane

@@ -1,0 +1,46 @@
+#pragma once
+// The picture areas of the fractal window. They all share the fractal WorldWindow.
+#include <cstdint>
+#include <string>
+
+#include "core/workbench.h"
+#include "render/raster_surface.h"
+
+namespace quillane {
+// The zoom command caption while no selection rectangle stands.
+inline constexpr const char* ZoomInCaption = "Zoom In\tPage Up";
+}  // namespace quillane
+
+namespace quillane {
+
+struct FractalPictures {
+    RasterSurface picfractal;     // what the person sees
+    RasterSurface picImage2;      // shadow of the drawing; zoom rectangles and trace dots erase back to it
+    RasterSurface picImage3;      // the drawing before the last view change
+    RasterSurface picImageShift;  // what a shift of the view slides
+    RasterSurface picImage;
+    RasterSurface picMask;
+    RasterSurface picImage4;
+    RasterSurface picPaste;  // a placed picture
+    bool PictureOverlaid = false;
+    double PasteX = 0, PasteY = 0;  // in world units
+
+    // The number display picCount: empty when cleared.
+    std::string picCount;
+
+    // A new square side in pixels for all areas, cleared to the fractal background.
+    void resize(int side, Color back);
+};
+
+// Gives every picture area the mapping of the window: left xmin, top ymax, right xmax, bottom ymin.
+void ApplyWindow(FractalPictures& pics, const WorldWindow& w);
+
+// Reconciles the requested window with the typed one in txtWin, writes the boxes when it changes
+// the window, then clears and rescales all picture areas. The four bounds may be changed.
+void ScalefrmFractalWindows(Workbench& wb, FractalPictures& pics, float& xmin, float& xmax, float& ymin,
+                            float& ymax, bool AddMargin);
+
+// Ends a drawing and returns the random picture to its empty start.
+void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture);
+
+}  // namespace quillane

@@ -1,0 +1,282 @@
+#include "render/play_game.h"
+
+#include <array>
+#include <string>
+
+#include "core/numbers.h"
+#include "render/map_choice.h"
+
+namespace quillane {
+
+namespace {
+
+// The seven coefficient arrays of the run: a private copy, so the loop touches no shared state.
+struct RunMaps {
+    int n = 0;
+    std::array<float, MaxMaps> a{}, b{}, c{}, d{}, e{}, f{}, p{};
+    std::array<Color, MaxMaps> color{};
+};
+
+RunMaps copyMaps(const Workbench& wb) {
+    RunMaps m;
+    m.n = wb.mapsFromText();
+    const IFSEntry& ifs = wb.CurrentIFS;
+    for (int i = 0; i < m.n; ++i) {
+        m.a[i] = ifs.a[i];
+        m.b[i] = ifs.b[i];
+        m.c[i] = ifs.c[i];
+        m.d[i] = ifs.d[i];
+        m.e[i] = ifs.e[i];
+        m.f[i] = ifs.f[i];
+        m.p[i] = ifs.p[i];
+        m.color[i] = wb.FunctionColor[i];
+    }
+    return m;
+}
+
+void switchCommandsForRun(Workbench& wb) {
+    MenuTable& m = wb.Menu;
+    m.setEnabled("tbrMain(14)", false);
+    m.setEnabled("tbrMain(15)", true);
+    m.setCaption("Toolbar1(1)", "Stop");
+    m.setEnabled("mnuStop", true);
+    m.setEnabled("mnuSaveFractal", false);
+    m.setEnabled("mnuEditCopy", false);
+    m.setEnabled("mnuClear", false);
+    m.setCaption("mnuZoom", ZoomInCaption);
+}
+
+void showCount(const Workbench& wb, FractalPictures& pics) {
+    if (wb.PointCount > WarmUpIterations) pics.picCount = std::to_string(wb.PointCount - WarmUpIterations);
+}
+
+// Both pictures of the plain loop, when they share size and mapping, so one pixel position serves both.
+struct PlotTarget {
+    uint32_t* shown = nullptr;
+    uint32_t* shadow = nullptr;
+    double left = 0, top = 0, sx = 0, sy = 0;
+    double width = 0, height = 0;
+    size_t stride = 0;
+    bool shared = false;
+};
+
+PlotTarget plotTarget(RasterSurface& shown, RasterSurface& shadow) {
+    PlotTarget t;
+    t.shared = shown.width() == shadow.width() && shown.height() == shadow.height() &&
+               shown.scaleLeft() == shadow.scaleLeft() && shown.scaleTop() == shadow.scaleTop() &&
+               shown.pixelScaleX() == shadow.pixelScaleX() && shown.pixelScaleY() == shadow.pixelScaleY();
+    t.shown = shown.data();
+    t.shadow = shadow.data();
+    t.left = shown.scaleLeft();
+    t.top = shown.scaleTop();
+    t.sx = shown.pixelScaleX();
+    t.sy = shown.pixelScaleY();
+    t.width = shown.width();
+    t.height = shown.height();
+    t.stride = static_cast<size_t>(shown.width());
+    return t;
+}
+
+// The run's position in the orbit, kept in locals while the loop runs.
+struct Orbit {
+    float x, y;
+    int32_t count;
+};
+
+// Warm-up iterations: computed, neither counted to the person nor plotted.
+void warmUp(Random& rng, const RunMaps& m, const MapChoice& choice, Orbit& o, int32_t stop) {
+    while (o.count < stop && o.count < WarmUpIterations) {
+        const int i = choice.fast(rng.next32());
+        ++o.count;
+        const float nx = m.a[i] * o.x + m.b[i] * o.y + m.e[i];
+        const float ny = m.c[i] * o.x + m.d[i] * o.y + m.f[i];
+        o.x = nx;
+        o.y = ny;
+    }
+}
+
+// Plotted iterations in colour mode 0 up to `stop`. Returns false on a point whose pixel position does
+// not fit an integer; that point is counted but not kept.
+bool plotLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const std::array<bool, MaxMaps>& skip,
+              const PlotTarget& t, Orbit& o, int32_t stop) {
+    float x = o.x, y = o.y;
+    int32_t count = o.count;
+    bool ok = true;
+    struct Pending {
+        size_t at;
+        uint32_t value;
+    };
+    constexpr uint32_t Delay = 16;
+    Pending pending[Delay];
+    uint32_t head = 0;
+    while (count < stop) {
+        const int i = choice.fast(rng.next32());
+        ++count;
+        const float nx = m.a[i] * x + m.b[i] * y + m.e[i];
+        const float ny = m.c[i] * x + m.d[i] * y + m.f[i];
+        if (!skip[i]) {
+            const double tx = (static_cast<double>(nx) - t.left) * t.sx;
+            const double ty = (static_cast<double>(ny) - t.top) * t.sy;
+            // floor(t) lies in [0, size) exactly when t does, so no floor is needed here.
+            if (tx >= 0 && ty >= 0 && tx < t.width && ty < t.height) {
+                const size_t at = static_cast<size_t>(static_cast<int>(ty)) * t.stride +
+                                  static_cast<size_t>(static_cast<int>(tx));
+                const uint32_t v = m.color[i] | 0xFF000000u;
+                // The writes wait a few points behind a prefetch of their lines, so that cache misses
+                // overlap instead of stalling the loop. Values are written in order.
+                __builtin_prefetch(t.shown + at, 1);
+                __builtin_prefetch(t.shadow + at, 1);
+                Pending& slot = pending[head & (Delay - 1)];
+                if (head >= Delay) {
+                    t.shown[slot.at] = slot.value;
+                    t.shadow[slot.at] = slot.value;
+                }
+                slot = {at, v};
+                ++head;
+            } else if (!(tx > -2147483649.0 && tx < 2147483648.0 && ty > -2147483649.0 &&
+                         ty < 2147483648.0)) {
+                ok = false;
+                break;
+            }
+        }
+        x = nx;
+        y = ny;
+    }
+    for (uint32_t k = head > Delay ? head - Delay : 0; k < head; ++k) {
+        const Pending& slot = pending[k & (Delay - 1)];
+        t.shown[slot.at] = slot.value;
+        t.shadow[slot.at] = slot.value;
+    }
+    o = {x, y, count};
+    return ok;
+}
+
+// The same through pset, for pictures that differ in size or mapping. Throws SurfaceOverflow.
+void plotLoopSlow(Random& rng, const RunMaps& m, const MapChoice& choice,
+                  const std::array<bool, MaxMaps>& skip, FractalPictures& pics, Orbit& o, int32_t stop) {
+    while (o.count < stop) {
+        const int i = choice.fast(rng.next32());
+        ++o.count;
+        const float nx = m.a[i] * o.x + m.b[i] * o.y + m.e[i];
+        const float ny = m.c[i] * o.x + m.d[i] * o.y + m.f[i];
+        if (!skip[i]) {
+            pics.picfractal.pset(nx, ny, m.color[i]);
+            pics.picImage2.pset(nx, ny, m.color[i]);
+        }
+        o.x = nx;
+        o.y = ny;
+    }
+}
+
+// Colour mode 0 from the current PointCount to `stop`; the caller yields.
+void plainLoop(Workbench& wb, FractalPictures& pics, const RunMaps& m, const MapChoice& choice,
+               const std::array<bool, MaxMaps>& skip, const PlotTarget& t, int32_t stop) {
+    Random rng = wb.Rng;  // a local copy stays in registers
+    Orbit o{wb.PlotX, wb.PlotY, wb.PointCount};
+    warmUp(rng, m, choice, o, stop);
+    bool ok = true;
+    if (t.shared) {
+        ok = plotLoop(rng, m, choice, skip, t, o, stop);
+    } else {
+        try {
+            plotLoopSlow(rng, m, choice, skip, pics, o, stop);
+        } catch (const SurfaceOverflow&) {
+            ok = false;  // the failed point is counted but not kept
+        }
+    }
+    wb.Rng = rng;
+    wb.PointCount = o.count;
+    wb.PlotX = o.x;
+    wb.PlotY = o.y;
+    if (!ok) throw SurfaceOverflow();
+}
+
+void restartPictures(Workbench& wb, FractalPictures& pics) {
+    wb.PointCount = 0;
+    pics.picImage3.takeImage(pics.picImage2);
+    pics.picfractal.clear();
+    if (pics.PictureOverlaid) pics.picfractal.paint(pics.picPaste, pics.PasteX, pics.PasteY, RasterOp::Copy);
+    pics.picImage2.takeImage(pics.picfractal);
+}
+
+}  // namespace
+
+int32_t PlayGameLimit(int32_t Count, int32_t PointCount) {
+    int64_t limit;
+    if (Count == 0)
+        limit = RunUntilStopped;
+    else if (Count < 0)
+        limit = -static_cast<int64_t>(Count) + WarmUpIterations;
+    else if (PointCount != 0)
+        limit = static_cast<int64_t>(PointCount) + Count;
+    else
+        limit = static_cast<int64_t>(Count) + WarmUpIterations;
+    return limit > INT32_MAX ? INT32_MAX : static_cast<int32_t>(limit);
+}
+
+void FinishPlayGame(Workbench& wb, FractalPictures& pics) {
+    wb.DrawingActive = false;
+    MenuTable& m = wb.Menu;
+    m.setEnabled("mnuSaveFractal", true);
+    m.setEnabled("mnuEditCopy", true);
+    m.setEnabled("mnuOpen", true);
+    wb.FractalWindowCaption = wb.FractalCaption;
+    m.setEnabled("mnuClear", true);
+    m.setEnabled("tbrMain(14)", true);
+    m.setEnabled("tbrMain(15)", false);
+    m.setCaption("Toolbar1(1)", "Draw");
+    for (const char* k : {"mnuDrawZoom", "mnuZoom", "mnuDrawShift", "mnuDrawRestore", "mnuDesign"})
+        m.setEnabled(k, true);
+    pics.picImageShift.setScale(wb.Window.xmin, wb.Window.ymax, wb.Window.xmax, wb.Window.ymin);
+    pics.picImageShift.takeImage(pics.picImage2);
+    showCount(wb, pics);
+}
+
+void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart, int32_t Count) {
+    const int32_t limit = PlayGameLimit(Count, wb.PointCount);
+    if (Restart == 1) restartPictures(wb, pics);
+
+    const RunMaps maps = copyMaps(wb);
+    float sum = 0;
+    for (int i = 0; i < maps.n; ++i) sum += maps.p[i];
+    if (Round(sum, 3) != 1) {
+        host.warn("Error", "Probabilities do not add to 1");
+        return;
+    }
+    if (!wb.DrawingStarted) {
+        wb.PointCount = 0;
+        wb.PlotX = wb.Window.xmin;
+        wb.PlotY = wb.Window.ymin;
+    }
+    wb.Rng.Randomize();
+    switchCommandsForRun(wb);
+    const MapChoice choice(MapChoice::CumProb(maps.p.data(), maps.n));
+    wb.FractalWindowCaption = PressQCaption;
+    wb.DrawingStarted = true;
+    wb.DrawingActive = true;
+
+    const PlotTarget target = plotTarget(pics.picfractal, pics.picImage2);
+    // Colour mode 0 leaves out the points of a map coloured like the background.
+    std::array<bool, MaxMaps> skip{};
+    for (int i = 0; i < maps.n; ++i) skip[i] = maps.color[i] == pics.picfractal.backColor();
+    try {
+        while (wb.DrawingActive && wb.PointCount < limit) {
+            // Yields fall at the counts 50, 150, 250 ...
+            int32_t nextYield = wb.PointCount + 1;
+            nextYield += static_cast<int32_t>(((50 - nextYield) % 100 + 100) % 100);
+            const int32_t stop = nextYield < limit ? nextYield : limit;
+            plainLoop(wb, pics, maps, choice, skip, target, stop);
+            if ((static_cast<int64_t>(wb.PointCount) + 50) % 100 == 0) {
+                showCount(wb, pics);
+                host.yield();
+            }
+        }
+    } catch (const SurfaceOverflow&) {
+        host.warn(DrawingProblemTitle, DrawingOverflowMessage);
+    } catch (const std::exception& e) {
+        host.warn(DrawingProblemTitle, std::string("An error was encountered:\n") + e.what());
+    }
+    FinishPlayGame(wb, pics);
+}
+
+}  // namespace quillane

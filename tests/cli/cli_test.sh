@@ -1,0 +1,69 @@
+#!/usr/bin/env bash
+# Drives quillane-cli as a script would: outputs, files and exit codes.
+set -u
+cli="$1"
+data="$2"
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+check() {  # check NAME CONDITION...
+    local name="$1"
+    shift
+    if "$@"; then echo "ok   $name"; else echo "FAIL $name"; failures=$((failures + 1)); fi
+}
+status() {  # status EXPECTED COMMAND...: runs the command, keeping its output
+    local expected="$1"
+    shift
+    "$@" >"$work/out" 2>"$work/err"
+    [ "$?" -eq "$expected" ]
+}
+
+check "help exits 0 and names every command" status 0 "$cli" --help
+check "help text" grep -q "render FILE \[--entry N\]" "$work/out"
+check "no command is bad usage" status 2 "$cli"
+check "unknown command is bad usage" status 2 "$cli" frobnicate
+check "render without -o is bad usage" status 2 "$cli" render "$data/default.ifs"
+check "render to an unknown picture type is bad usage" status 2 "$cli" render "$data/default.ifs" -o "$work/x.tif"
+check "bad --window is bad usage" status 2 "$cli" render "$data/default.ifs" --window 1,0,0,1 -o "$work/x.png"
+
+check "list default.ifs" status 0 "$cli" list "$data/default.ifs"
+check "first line: number TAB name TAB maps" test "$(head -1 "$work/out")" = "$(printf '1\tSierpinski triangle\t3')"
+check "list names eleven entries" test "$(wc -l <"$work/out")" -eq 11
+check "list default.chg through the chaos game reader" status 0 "$cli" list "$data/default.chg"
+check "chaos list first line" test "$(head -1 "$work/out")" = "$(printf '1\tSierpinski triangle\t3')"
+
+check "missing file exits 1" status 1 "$cli" list "$work/none.ifs"
+check "missing file message on stderr" grep -q "This file cannot be found" "$work/err"
+
+printf 'x {\n0.5 0 0 0.5\n}\n' >"$work/short.ifs"
+check "short row exits 1" status 1 "$cli" list "$work/short.ifs"
+check "short row message names the IFS" grep -q 'the IFS with name "x"' "$work/err"
+head -c 3000 /dev/urandom | tr -d '{' >"$work/garbage.ifs"
+check "garbage exits 1" status 1 "$cli" list "$work/garbage.ifs"
+check "garbage message" grep -q "No valid functions found in this file" "$work/err"
+
+check "save as ifs" status 0 "$cli" save "$data/default.ifs" "$work/copy.ifs"
+"$cli" list "$data/default.ifs" >"$work/a"
+"$cli" list "$work/copy.ifs" >"$work/b"
+check "saved list reads back the same" cmp -s "$work/a" "$work/b"
+check "saved rows use six decimals" grep -q "^   0.500000  0.000000  0.000000  0.500000  0.000000  0.000000  0.33" "$work/copy.ifs"
+check "save chaos list" status 0 "$cli" save "$data/default.chg" "$work/copy.chg"
+"$cli" list "$data/default.chg" >"$work/a"
+"$cli" list "$work/copy.chg" >"$work/b"
+check "saved chaos list reads back the same" cmp -s "$work/a" "$work/b"
+
+check "render a PNG" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 -o "$work/t.png"
+check "render reports its speed" grep -Eq "^20000 points in [0-9.]+ s \([0-9]+ points/s\)$" "$work/err"
+check "PNG signature" test "$(head -c 4 "$work/t.png" | od -An -c | tr -d ' ')" = "211PNG"
+check "render a BMP with a window" status 0 "$cli" render "$data/default.ifs" --entry 3 --window -3,3,0,10 --size 32 --points 1000 -o "$work/t.bmp"
+check "BMP signature" test "$(head -c 2 "$work/t.bmp")" = "BM"
+check "pinned seed repeats the picture" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 -o "$work/u.png"
+check "same picture twice" cmp -s "$work/t.png" "$work/u.png"
+check "entry beyond the list exits 1" status 1 "$cli" render "$data/default.ifs" --entry 30 -o "$work/v.png"
+printf 'grow {\n2 0 0 2 1 1 1\n}\n' >"$work/grow.ifs"
+check "expanding IFS exits 1" status 1 "$cli" render "$work/grow.ifs" --window 0,1,0,1 -o "$work/g.png"
+check "overflow message" grep -q "Overflow error." "$work/err"
+
+echo "$failures failure(s)"
+[ "$failures" -eq 0 ]

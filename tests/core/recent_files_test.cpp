@@ -1,0 +1,57 @@
+#include "core/recent_files.h"
+
+#include <gtest/gtest.h>
+
+#include "core/workbench.h"
+
+namespace quillane {
+namespace {
+
+using Paths = std::vector<std::string>;
+
+Paths slots(const Workbench& wb) {
+    return Paths(wb.RecentFiles.begin(), wb.RecentFiles.begin() + wb.RecentFileCount);
+}
+
+TEST(RecentFileCaption, ShortensAPathWithTwoOrMoreFolders) {
+    EXPECT_EQ(RecentFileCaption("C:\\Users\\me\\Fractals\\demo.ifs"), "C:\\...\\Fractals\\demo.ifs");
+    EXPECT_EQ(RecentFileCaption("C:\\Data\\Fractals\\demo.ifs"), "C:\\...\\Fractals\\demo.ifs");
+    EXPECT_EQ(RecentFileCaption("/home/me/Fractals/demo.ifs"), "/ho.../Fractals/demo.ifs");
+}
+
+TEST(RecentFileCaption, ShowsAShorterPathWhole) {
+    EXPECT_EQ(RecentFileCaption("C:\\Fractals\\demo.ifs"), "C:\\Fractals\\demo.ifs");
+    EXPECT_EQ(RecentFileCaption("demo.ifs"), "demo.ifs");
+    EXPECT_EQ(RecentFileCaption(""), "");
+}
+
+TEST(AddRecentFile, TheFirstFileTakesSlotZeroAndShowsItsItem) {
+    Workbench wb;
+    AddRecentFile(wb, "C:\\a\\b\\c\\one.ifs");
+    EXPECT_EQ(slots(wb), Paths{"C:\\a\\b\\c\\one.ifs"});
+    EXPECT_TRUE(wb.menu("mnuMRU(0)").visible);
+    EXPECT_EQ(wb.menu("mnuMRU(0)").caption, "C:\\...\\c\\one.ifs");
+}
+
+TEST(AddRecentFile, NewFilesGoOnTopAndTheOldestDropsOffAfterSix) {
+    Workbench wb;
+    for (int k = 1; k <= 7; ++k) AddRecentFile(wb, "f" + std::to_string(k) + ".ifs");
+    EXPECT_EQ(slots(wb), (Paths{"f7.ifs", "f6.ifs", "f5.ifs", "f4.ifs", "f3.ifs", "f2.ifs"}));
+    EXPECT_EQ(wb.RecentFileCount, 6);
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(wb.menu(MRUKey(i)).caption, wb.RecentFiles[i]) << i;
+}
+
+TEST(AddRecentFile, AFileInSlotThreeMovesToTheTopInAnyCase) {
+    Workbench wb;
+    for (const char* f : {"d.ifs", "c.ifs", "b.ifs", "a.ifs", "z.ifs"}) AddRecentFile(wb, f);
+    ASSERT_EQ(slots(wb), (Paths{"z.ifs", "a.ifs", "b.ifs", "c.ifs", "d.ifs"}));
+    AddRecentFile(wb, "C.IFS");
+    EXPECT_EQ(slots(wb), (Paths{"C.IFS", "z.ifs", "a.ifs", "b.ifs", "d.ifs"}));
+    EXPECT_EQ(wb.RecentFileCount, 5);
+    EXPECT_EQ(wb.menu("mnuMRU(0)").caption, "C.IFS");
+    EXPECT_EQ(wb.menu("mnuMRU(3)").caption, "b.ifs");
+    EXPECT_FALSE(wb.Menu.contains("mnuMRU(5)"));
+}
+
+}  // namespace
+}  // namespace quillane
