@@ -66,12 +66,15 @@ class Workbench {
     WorldWindow Window;  // the fractal window's WorldWindow
     float AttractorXMin = 0, AttractorXMax = 0, AttractorYMin = 0, AttractorYMax = 0;
     WorldWindow UndoWindow;
+    int16_t ZoomUndoSource = 0;  // which window "&Undo Zoom" belongs to: 0 design, 1 fractal
     WorldWindow FitWindow;
 
     // Texts that logic reads and writes in windows: the function table, the frame, the fractal window.
     std::string FunctionsCaption = "IFS [Untitled]";  // frmfunctions caption
     std::string txtMaps = "1";
     std::array<std::string, 4> txtWin;  // ymax, ymin, xmin, xmax, "0.000"
+    std::array<std::string, 4> txtDesign{"1.100", "-0.100", "-0.100",
+                                         "1.100"};  // the design window, same order
     std::string lblProbSum = "1.000";
     std::string FrameCaption = "Quillane";
     std::string FractalWindowCaption = "Fractal (Random)";

@@ -42,9 +42,15 @@ void ScalefrmFractalWindows(Workbench& wb, FractalPictures& pics, float& xmin, f
     }
     wb.Window = {xmin, xmax, ymin, ymax};
     if (!inside) WriteWindowText(wb);
+    // picImageShift keeps its picture and its old scale: a shift of the view slides it from there.
     const int side = pics.picfractal.width();
-    pics.resize(side, pics.picfractal.backColor());
-    ApplyWindow(pics, wb.Window);
+    const Color back = pics.picfractal.backColor();
+    for (RasterSurface* s : {&pics.picfractal, &pics.picImage2, &pics.picImage, &pics.picMask,
+                             &pics.picImage3, &pics.picImage4}) {
+        s->setBackColor(back);
+        s->resize(side, side);
+        s->setScale(xmin, ymax, xmax, ymin);
+    }
 }
 
 void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
@@ -54,7 +60,9 @@ void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
     wb.DrawingActive = false;
     wb.PointCount = 0;
     pics.picCount.clear();
+    pics.Selection.SelectionActive = false;
     wb.Menu.setCaption("mnuZoom", ZoomInCaption);
+    if (!wb.RandomMode) return;  // the deterministic level 0 arrives with its own module
     if (!KeepPicture) pics.PictureOverlaid = false;
 }
 

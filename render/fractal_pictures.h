@@ -7,11 +7,23 @@
 #include "render/raster_surface.h"
 
 namespace quillane {
-// The zoom command caption while no selection rectangle stands.
-inline constexpr const char* ZoomInCaption = "Zoom In\tPage Up";
-}  // namespace quillane
 
-namespace quillane {
+// The zoom command caption while no selection rectangle stands, and while one does.
+inline constexpr const char* ZoomInCaption = "Zoom In\tPage Up";
+inline constexpr const char* ZoomSelectionCaption = "Zoom Selection\tPage Up";
+
+// The selection rectangle and ruler line of the fractal window, in world units.
+struct FractalSelection {
+    double SelX1 = 0, SelY1 = 0, SelX2 = 0, SelY2 = 0;
+    bool SelectionActive = false;
+    bool SelectionDragging = false;
+    bool DrawingLine = false;
+    int SelectionAspect = 0;  // 1 square, 0 free
+    // The pen of picfractal from before the drag, put back when it ends.
+    DrawMode SavedDrawMode = DrawMode::CopyPen;
+    DrawStyle SavedDrawStyle = DrawStyle::Solid;
+    int SavedDrawWidth = 1;
+};
 
 struct FractalPictures {
     RasterSurface picfractal;     // what the person sees
@@ -27,6 +39,19 @@ struct FractalPictures {
 
     // The number display picCount: empty when cleared.
     std::string picCount;
+    // The coordinate display picCoord.
+    std::string picCoord;
+
+    FractalSelection Selection;
+    // View state of the window.
+    int32_t SavedPointCount = 0;  // PointCount before the last view change, for Undo Zoom
+    bool LastChangeWasZoom = false;
+    bool ImageSizeFixed = false;  // mnuDrawImageSize enabled
+    int ImageSizeTwips = 0;
+    int32_t LastFixedCount = 10000;  // the last signed count of "Draw This Many..." (Ctrl+Alt+D)
+    // Counts the runs of PlayGame begun on these pictures. A run that comes back from a yield in which
+    // another run began (a zoom restarts the drawing) sees the change and ends.
+    uint32_t RunNumber = 0;
 
     // A new square side in pixels for all areas, cleared to the fractal background.
     void resize(int side, Color back);

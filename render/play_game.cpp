@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/numbers.h"
+#include "render/fractal_view.h"
 #include "render/map_choice.h"
 
 namespace quillane {
@@ -235,6 +236,7 @@ void FinishPlayGame(Workbench& wb, FractalPictures& pics) {
 void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart, int32_t Count) {
     const int32_t limit = PlayGameLimit(Count, wb.PointCount);
     if (Restart == 1) restartPictures(wb, pics);
+    if (pics.Selection.SelectionActive) ClearSelectionRect(wb, pics);
 
     const RunMaps maps = copyMaps(wb);
     float sum = 0;
@@ -250,17 +252,20 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
     }
     wb.Rng.Randomize();
     switchCommandsForRun(wb);
+    pics.Selection.SelectionActive = false;
     const MapChoice choice(MapChoice::CumProb(maps.p.data(), maps.n));
     wb.FractalWindowCaption = PressQCaption;
     wb.DrawingStarted = true;
     wb.DrawingActive = true;
+    const uint32_t run = ++pics.RunNumber;
 
-    const PlotTarget target = plotTarget(pics.picfractal, pics.picImage2);
-    // Colour mode 0 leaves out the points of a map coloured like the background.
-    std::array<bool, MaxMaps> skip{};
-    for (int i = 0; i < maps.n; ++i) skip[i] = maps.color[i] == pics.picfractal.backColor();
     try {
         while (wb.DrawingActive && wb.PointCount < limit) {
+            // A yield may have rescaled, resized or shifted the pictures, so their layout is read anew.
+            const PlotTarget target = plotTarget(pics.picfractal, pics.picImage2);
+            // Colour mode 0 leaves out the points of a map coloured like the background.
+            std::array<bool, MaxMaps> skip{};
+            for (int i = 0; i < maps.n; ++i) skip[i] = maps.color[i] == pics.picfractal.backColor();
             // Yields fall at the counts 50, 150, 250 ...
             int32_t nextYield = wb.PointCount + 1;
             nextYield += static_cast<int32_t>(((50 - nextYield) % 100 + 100) % 100);
@@ -269,6 +274,8 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
             if ((static_cast<int64_t>(wb.PointCount) + 50) % 100 == 0) {
                 showCount(wb, pics);
                 host.yield();
+                // A run begun during the yield has finished by now and owns the pictures.
+                if (pics.RunNumber != run) break;
             }
         }
     } catch (const SurfaceOverflow&) {

@@ -129,3 +129,62 @@ TEST(SquareWindow, WidensTheShorterSide) {
 
 }  // namespace
 }  // namespace quillane
+
+#include "core/fractal_list.h"
+#include "render/list_entry_commands.h"
+
+namespace quillane {
+namespace {
+
+// A list of the triangle and a single-map entry, the triangle taken.
+struct ListBench {
+    Workbench wb;
+    FractalPictures pics;
+    ScriptedHost host;
+    ListBench() {
+        wb.FractalList[1] = SierpinskiTriangleIFS();
+        wb.FractalList[2] = DefaultIFS();
+        wb.FractalList[2].Name = "Half";
+        wb.FractalList[2].e[0] = 1.0f;
+        wb.FractalList[2].f[0] = 1.0f;
+        SetIFSMenu(wb, 2, 0);
+        TakeListEntry(wb, 1);
+        pics.resize(40, White);
+        wb.Rng.pin(4);
+    }
+};
+
+TEST(ListEntry, TakingAnEntryScalesTheWindowToItsAttractor) {
+    ListBench b;
+    EXPECT_TRUE(mnuNamesEntry_Click(b.wb, b.pics, b.host, 6));
+    EXPECT_EQ(b.wb.SelectedIFS, 2);
+    EXPECT_EQ(b.wb.FunctionsCaption, "IFS [Half]");
+    EXPECT_TRUE(b.wb.menu(EntryKey(2)).checked);
+    EXPECT_FALSE(b.wb.menu(EntryKey(1)).checked);
+    // The fixed point (2, 2) alone: 1.95 .. 2.05 with the margin.
+    EXPECT_FLOAT_EQ(b.wb.Window.xmin, 1.945f);
+    EXPECT_DOUBLE_EQ(b.pics.picfractal.scaleLeft(), b.wb.Window.xmin);
+    EXPECT_TRUE(b.host.shown().empty());
+}
+
+TEST(ListEntry, AnEditedNamedIFSAsksFirstAndCancelKeepsIt) {
+    ListBench b;
+    CountEdit(b.wb);
+    b.host.answers.push_back(Answer::Cancel);
+    EXPECT_FALSE(mnuNamesEntry_Click(b.wb, b.pics, b.host, 6));
+    ASSERT_EQ(b.host.shown().size(), 1u);
+    EXPECT_EQ(b.host.shown()[0].title, "Continue without saving?");
+    EXPECT_EQ(b.wb.SelectedIFS, 1);
+    EXPECT_EQ(b.wb.CurrentIFS.nMaps, 3);
+}
+
+TEST(ListEntry, AnEntryWithoutFunctionsIsRefused) {
+    ListBench b;
+    b.wb.FractalList[2].nMaps = 0;
+    EXPECT_FALSE(mnuNamesEntry_Click(b.wb, b.pics, b.host, 6));
+    EXPECT_EQ(b.host.shown(), (std::vector<ShownMessage>{{"Error", "This IFS has no functions.   "}}));
+    EXPECT_EQ(b.wb.SelectedIFS, 1);
+}
+
+}  // namespace
+}  // namespace quillane

@@ -1,0 +1,104 @@
+// The drawing commands of the fractal window and its keys.
+#include <string>
+
+#include "render/fractal_view.h"
+#include "render/play_game.h"
+
+namespace quillane {
+
+namespace {
+
+constexpr int CtrlAlt = ShiftMaskCtrl | ShiftMaskAlt;
+
+bool deterministicDrawing(const Workbench& wb) {
+    return !wb.RandomMode && wb.DrawingActive;
+}
+
+void deleteKey(Workbench& wb, FractalPictures& pics, int shiftMask) {
+    // Ctrl keeps a placed picture; the floating picture does not exist yet, so a placed one is hidden.
+    const bool keep = (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid;
+    ClearImage(wb, pics, keep);
+    wb.DrawingActive = false;
+    wb.DrawingStarted = false;
+}
+
+}  // namespace
+
+// The window shows itself and takes the focus before this runs; the yield lets it paint first.
+void mnuRun_Click(Workbench& wb, FractalPictures& pics, Host& host) {
+    if (wb.DrawingActive) return;
+    host.yield();
+    if (!wb.RandomMode) return;  // deterministic drawing arrives with its own module
+    wb.FractalCaption = "Fractal (Random)";
+    PlayGame(wb, pics, host, 0, 0);
+}
+
+void mnuStop_Click(Workbench& wb) {
+    wb.DrawingActive = false;
+}
+
+void mnuClear_Click(Workbench& wb, FractalPictures& pics) {
+    wb.DrawingActive = false;
+    ClearImage(wb, pics, false);
+    wb.DrawingStarted = false;
+}
+
+void DrawFixedNumber(Workbench& wb, FractalPictures& pics, Host& host, int32_t count) {
+    pics.LastFixedCount = count;
+    host.yield();
+    if (!wb.RandomMode) return;  // deterministic drawing arrives with its own module
+    PlayGame(wb, pics, host, 0, count);
+}
+
+bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
+    switch (keyCode) {
+        case KeyQ:
+            wb.DrawingActive = false;
+            return true;
+        case KeyD:
+            if (shiftMask != CtrlAlt) return false;
+            if (wb.RandomMode) PlayGame(wb, pics, host, 0, pics.LastFixedCount);
+            return true;
+        case KeyPageUp:
+            if (pics.Selection.SelectionActive)
+                ZoomIn(wb, pics, host);
+            else
+                ZoomOut(wb, pics, host, -5, true);
+            return true;
+        case KeyPageDown:
+            ZoomOut(wb, pics, host, 5, true);
+            return true;
+        case KeyHome:
+            ZoomOut(wb, pics, host, -1, true);
+            return true;
+        case KeyLeft:
+        case KeyUp:
+        case KeyRight:
+        case KeyDown:
+            if (deterministicDrawing(wb)) return false;
+            ShiftDrawWin(wb, pics, host, keyCode);
+            return true;
+        case KeyDelete:
+            if (deterministicDrawing(wb)) return false;
+            deleteKey(wb, pics, shiftMask);
+            return true;
+        default:
+            return false;
+    }
+}
+
+void ResizeFractalWin(Workbench& wb, FractalPictures& pics, int side) {
+    wb.DrawingActive = false;
+    pics.resize(side, pics.picfractal.backColor());
+    float xmin = wb.Window.xmin, xmax = wb.Window.xmax, ymin = wb.Window.ymin, ymax = wb.Window.ymax;
+    ScalefrmFractalWindows(wb, pics, xmin, xmax, ymin, ymax, false);
+    pics.picImageShift.setScale(xmin, ymax, xmax, ymin);
+    ClearImage(wb, pics, false);
+    wb.DrawingStarted = false;
+}
+
+std::string FractalSizeText(int width, int height) {
+    return std::to_string(width) + " x " + std::to_string(height);
+}
+
+}  // namespace quillane

@@ -1,0 +1,228 @@
+#include "shell/fractal_window.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "render/fractal_view.h"
+#include "shell/picture_widget.h"
+
+namespace quillane {
+
+namespace {
+int modifierMask(Qt::KeyboardModifiers m) {
+    return FractalShiftMask(m);
+}
+}  // namespace
+
+int FractalKeyCode(int qtKey) {
+    switch (qtKey) {
+        case Qt::Key_Left:
+            return KeyLeft;
+        case Qt::Key_Up:
+            return KeyUp;
+        case Qt::Key_Right:
+            return KeyRight;
+        case Qt::Key_Down:
+            return KeyDown;
+        case Qt::Key_PageUp:
+            return KeyPageUp;
+        case Qt::Key_PageDown:
+            return KeyPageDown;
+        case Qt::Key_Home:
+            return KeyHome;
+        case Qt::Key_Delete:
+            return KeyDelete;
+        default:
+            break;
+    }
+    if (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z) return 'A' + (qtKey - Qt::Key_A);
+    if (qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) return '0' + (qtKey - Qt::Key_0);
+    return qtKey & 0xFFFF;
+}
+
+int FractalShiftMask(Qt::KeyboardModifiers modifiers) {
+    int mask = 0;
+    if (modifiers & Qt::ShiftModifier) mask |= ShiftMaskShift;
+    if (modifiers & Qt::ControlModifier) mask |= ShiftMaskCtrl;
+    if (modifiers & Qt::AltModifier) mask |= ShiftMaskAlt;
+    return mask;
+}
+
+FractalWindow::FractalWindow(AppState& state, Host& host, QWidget* parent)
+    : QWidget(parent), state_(state), host_(host) {
+    setObjectName("frmFractal");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(2, 2, 2, 2);
+    layout->setSpacing(2);
+    buildToolbar();
+    layout->addWidget(Toolbar1_);
+
+    picOuter_ = new QScrollArea(this);
+    picOuter_->setObjectName("picOuter");
+    picOuter_->setAlignment(Qt::AlignCenter);
+    picOuter_->setWidgetResizable(false);
+    picOuter_->horizontalScrollBar()->setObjectName("hbarMarble");
+    picOuter_->verticalScrollBar()->setObjectName("vbarMarble");
+    picfractal_ = new PictureWidget;
+    picfractal_->setObjectName("picfractal");
+    picOuter_->setWidget(picfractal_);
+    layout->addWidget(picOuter_, 1);
+
+    auto* status = new QHBoxLayout;
+    picCoord_ = new QLabel(this);
+    picCoord_->setObjectName("picCoord");
+    picCoord_->setFrameShape(QFrame::Panel);
+    picCoord_->setFrameShadow(QFrame::Sunken);
+    picCoord_->setMinimumWidth(fontMetrics().horizontalAdvance(QString(15, '4')));
+    picCount_ = new QLabel(this);
+    picCount_->setObjectName("picCount");
+    picCount_->setFrameShape(QFrame::Panel);
+    picCount_->setFrameShadow(QFrame::Sunken);
+    picCount_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    picCount_->setMinimumWidth(fontMetrics().horizontalAdvance(QString(10, '4')));
+    picTrace_ = new QLabel(" Trace Off", this);
+    picTrace_->setObjectName("picTrace");
+    picTrace_->setFrameShape(QFrame::Panel);
+    picTrace_->setFrameShadow(QFrame::Sunken);
+    pgrIterate_ = new QProgressBar(this);
+    pgrIterate_->setObjectName("pgrIterate");
+    pgrIterate_->setVisible(false);
+    status->addWidget(picCoord_, 3);
+    status->addWidget(picCount_, 2);
+    status->addWidget(picTrace_, 1);
+    status->addWidget(pgrIterate_, 2);
+    layout->addLayout(status);
+
+    connect(picfractal_, &PictureWidget::mouseMoved, this,
+            [this](QPointF w, Qt::KeyboardModifiers) { onMouseMoved(w); });
+    connect(picfractal_, &PictureWidget::mousePressed, this, &FractalWindow::onMousePressed);
+    connect(picfractal_, &PictureWidget::keyPressed, this, &FractalWindow::keyPressEvent);
+    connect(picfractal_, &PictureWidget::mouseReleased, this, &FractalWindow::onMouseReleased);
+    setFocusProxy(picfractal_);
+    resize(420, 480);
+    refresh();
+}
+
+void FractalWindow::buildToolbar() {
+    Toolbar1_ = new QToolBar(this);
+    Toolbar1_->setObjectName("Toolbar1");
+    Toolbar1_->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    play_ = Toolbar1_->addAction(style()->standardIcon(QStyle::SP_MediaPlay), "Draw");
+    play_->setObjectName("play");
+    connect(play_, &QAction::triggered, this, [this] {
+        // The first button draws while it shows "start", else it stops the drawing.
+        if (state_.wb.menu("Toolbar1(1)").caption == "Stop")
+            state_.wb.DrawingActive = false;
+        else if (runCommand)
+            runCommand("mnuRun");
+    });
+    Toolbar1_->addSeparator();
+    for (auto [key, text] : {std::pair{"axes", "Axes"}, {"fixed points", "Fixed Points"}, {"grid", "Grid"}}) {
+        QAction* a = Toolbar1_->addAction(text);
+        a->setObjectName(key);
+        a->setEnabled(false);  // overlays arrive with their own module
+    }
+    Toolbar1_->addSeparator();
+    QAction* zoomOut = Toolbar1_->addAction(style()->standardIcon(QStyle::SP_ArrowDown), "Zoom Out");
+    zoomOut->setObjectName("zoom");
+    connect(zoomOut, &QAction::triggered, this, [this] {
+        ZoomOut(state_.wb, state_.pics, host_, 5, true);
+        changed();
+    });
+    QAction* zoomIn = Toolbar1_->addAction(style()->standardIcon(QStyle::SP_ArrowUp), "Zoom In");
+    zoomIn->setObjectName("zoom in");
+    connect(zoomIn, &QAction::triggered, this, [this] {
+        ZoomIn(state_.wb, state_.pics, host_);
+        changed();
+    });
+}
+
+void FractalWindow::changed() {
+    if (afterCommand)
+        afterCommand();
+    else
+        refresh();
+}
+
+void FractalWindow::refresh() {
+    const Workbench& wb = state_.wb;
+    setWindowTitle(QString::fromStdString(wb.FractalWindowCaption));
+    const bool running = wb.menu("Toolbar1(1)").caption == "Stop";
+    play_->setText(running ? "Stop" : "Draw");
+    play_->setIcon(style()->standardIcon(running ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
+    picCount_->setText(QString::fromStdString(state_.pics.picCount));
+    picCoord_->setText(QString::fromStdString(state_.pics.picCoord));
+    if (picfractal_->surface() != &state_.pics.picfractal ||
+        picfractal_->size() != QSize(state_.pics.picfractal.width(), state_.pics.picfractal.height()))
+        picfractal_->setSurface(&state_.pics.picfractal);
+    picfractal_->update();
+}
+
+void FractalWindow::relayout() {
+    const int scrollbar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int border = picOuter_->frameWidth() * 2;
+    std::optional<int> fixed;
+    const double ppi = screen() ? screen()->logicalDotsPerInch() : 96.0;
+    if (state_.pics.ImageSizeFixed) fixed = TwipsToPixels(state_.pics.ImageSizeTwips, ppi);
+    // The picture is laid out in picOuter's area; the toolbar and the status row are outside it.
+    const FractalLayout l = ComputeFractalLayout(picOuter_->width(), picOuter_->height() + BelowGapPixels, 0,
+                                                 border, fixed, scrollbar);
+    if (l.side != laidOutSide_ || state_.pics.picfractal.width() != l.side) {
+        laidOutSide_ = l.side;
+        ResizeFractalWin(state_.wb, state_.pics, l.side);
+        sizeText = FractalSizeText(l.side, l.side);
+        if (onSizeChanged) onSizeChanged(sizeText);
+    }
+    refresh();
+}
+
+void FractalWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    relayout();
+}
+
+void FractalWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    relayout();
+}
+
+void FractalWindow::keyPressEvent(QKeyEvent* event) {
+    const bool handled = FractalKeyDown(state_.wb, state_.pics, host_, FractalKeyCode(event->key()),
+                                        modifierMask(event->modifiers()));
+    changed();
+    if (!handled) event->ignore();
+}
+
+void FractalWindow::onMouseMoved(QPointF world) {
+    FractalMouseMove(state_.wb, state_.pics, world.x(), world.y());
+    picCoord_->setText(QString::fromStdString(state_.pics.picCoord));
+    if (state_.pics.Selection.SelectionDragging) picfractal_->update();
+}
+
+void FractalWindow::onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    if (button != Qt::LeftButton || state_.wb.DrawingActive) return;
+    FractalMouseDown(state_.wb, state_.pics, world.x(), world.y(), modifierMask(modifiers));
+    refresh();
+}
+
+void FractalWindow::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers,
+                                    QPoint globalPosition) {
+    if (button == Qt::RightButton) {
+        if (onDrawMenuRequested) onDrawMenuRequested(globalPosition);
+        return;
+    }
+    if (button != Qt::LeftButton || state_.wb.DrawingActive) return;
+    FractalMouseUp(state_.wb, state_.pics, world.x(), world.y());
+    changed();
+}
+
+}  // namespace quillane

@@ -1,0 +1,151 @@
+#include "shell/functions_window.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "core/numbers.h"
+
+namespace quillane {
+
+namespace {
+// txtWin and txtDesign are laid out as the window's edges: top ymax, bottom ymin, left xmin, right xmax.
+constexpr int TopBox = 0, BottomBox = 1, LeftBox = 2, RightBox = 3;
+
+QLineEdit* numberBox(QWidget* parent, const QString& name, int chars) {
+    auto* box = new QLineEdit(parent);
+    box->setObjectName(name);
+    box->setReadOnly(true);
+    box->setAlignment(Qt::AlignRight);
+    box->setFixedWidth(box->fontMetrics().horizontalAdvance(QString(chars, '8')) + 12);
+    return box;
+}
+
+QString swatchStyle(Color c) {
+    return QString("background-color: rgb(%1,%2,%3); color: white; border: 1px solid gray;")
+        .arg(RedOf(c))
+        .arg(GreenOf(c))
+        .arg(BlueOf(c));
+}
+}  // namespace
+
+FunctionsWindow::FunctionsWindow(AppState& state, QWidget* parent) : QWidget(parent), state_(state) {
+    setObjectName("frmfunctions");
+    auto* layout = new QVBoxLayout(this);
+
+    auto* top = new QHBoxLayout;
+    top->addWidget(new QLabel("Number of functions:", this));
+    txtMaps_ = numberBox(this, "txtMaps", 4);
+    top->addWidget(txtMaps_);
+    lblComment_ = new QLabel(this);
+    lblComment_->setObjectName("lblComment");
+    top->addWidget(lblComment_, 1);
+    layout->addLayout(top);
+
+    auto* table = new QWidget;
+    grid_ = new QGridLayout(table);
+    grid_->setHorizontalSpacing(4);
+    grid_->setVerticalSpacing(2);
+    for (int k = 0; k < TableColumns; ++k) {
+        headings_[k] = new QLabel(table);
+        headings_[k]->setAlignment(Qt::AlignCenter);
+        grid_->addWidget(headings_[k], 0, k + 1);
+    }
+    grid_->setRowStretch(MaxMaps + 1, 1);
+    auto* picCompact = new QScrollArea(this);
+    picCompact->setObjectName("picCompact");
+    picCompact->setWidget(table);
+    picCompact->setWidgetResizable(true);
+    layout->addWidget(picCompact, 1);
+
+    auto* sum = new QHBoxLayout;
+    sum->addWidget(new QLabel("Sum of probabilities:", this));
+    lblProbSum_ = new QLabel(this);
+    lblProbSum_->setObjectName("lblProbSum");
+    sum->addWidget(lblProbSum_);
+    sum->addStretch(1);
+    layout->addLayout(sum);
+
+    auto* windows = new QHBoxLayout;
+    windows->addWidget(buildWindowBoxes("Fractal Window", "txtWin", txtWin_));
+    windows->addWidget(buildWindowBoxes("Design Window", "txtDesign", txtDesign_));
+    windows->addStretch(1);
+    layout->addLayout(windows);
+    resize(640, 420);
+    refresh();
+}
+
+QWidget* FunctionsWindow::buildWindowBoxes(const QString& title, const QString& prefix,
+                                           std::array<QLineEdit*, 4>& boxes) {
+    auto* group = new QGroupBox(title, this);
+    auto* grid = new QGridLayout(group);
+    for (int k = 0; k < 4; ++k) boxes[k] = numberBox(group, QString("%1(%2)").arg(prefix).arg(k), 7);
+    grid->addWidget(boxes[TopBox], 0, 1);
+    grid->addWidget(boxes[LeftBox], 1, 0);
+    grid->addWidget(boxes[RightBox], 1, 2);
+    grid->addWidget(boxes[BottomBox], 2, 1);
+    return group;
+}
+
+void FunctionsWindow::ensureRows(int n) {
+    static const char* names[TableColumns] = {"txta", "txtb",    "txtC",   "txtD",  "txtE",
+                                              "txtF", "txtProb", "txtFPx", "txtFPy"};
+    QWidget* table = grid_->parentWidget();
+    while (static_cast<int>(rows_.size()) < n) {
+        const int i = static_cast<int>(rows_.size());
+        Row r;
+        r.picColor = new QLabel(QString::number(i + 1), table);
+        r.picColor->setObjectName(QString("picColor(%1)").arg(i));
+        r.picColor->setAlignment(Qt::AlignCenter);
+        r.picColor->setFixedWidth(r.picColor->fontMetrics().horizontalAdvance("8888") + 6);
+        grid_->addWidget(r.picColor, i + 1, 0);
+        for (int k = 0; k < TableColumns; ++k) {
+            r.boxes[k] = numberBox(table, QString("%1(%2)").arg(names[k]).arg(i), 7);
+            grid_->addWidget(r.boxes[k], i + 1, k + 1);
+        }
+        rows_.push_back(r);
+    }
+}
+
+void FunctionsWindow::showRow(int i, bool visible) {
+    Row& r = rows_[static_cast<size_t>(i)];
+    r.picColor->setVisible(visible);
+    const bool fixedPoint = state_.wb.CodeForm == 2;
+    for (int k = 0; k < TableColumns; ++k) r.boxes[k]->setVisible(visible && (k < 7 || fixedPoint));
+}
+
+void FunctionsWindow::refresh() {
+    const Workbench& wb = state_.wb;
+    setWindowTitle(QString::fromStdString(wb.FunctionsCaption));
+    txtMaps_->setText(QString::fromStdString(wb.txtMaps));
+    const IFSEntry& ifs = wb.CurrentIFS;
+    lblComment_->setVisible(ifs.nComments > 0);
+    if (ifs.nComments > 0) lblComment_->setText(QString::fromStdString(Trim(ifs.Comment[1])));
+    const auto headings = ColumnHeadings(wb);
+    for (int k = 0; k < TableColumns; ++k) {
+        headings_[k]->setText(QString::fromStdString(headings[k]));
+        headings_[k]->setVisible(!headings[k].empty());
+    }
+    const int n = std::min<int>(ifs.nMaps, MaxMaps);
+    ensureRows(n);
+    for (int i = 0; i < static_cast<int>(rows_.size()); ++i) {
+        showRow(i, i < n);
+        if (i >= n) continue;
+        const auto texts = RowTexts(wb, i);
+        for (int k = 0; k < TableColumns; ++k)
+            rows_[static_cast<size_t>(i)].boxes[k]->setText(QString::fromStdString(texts[k]));
+        rows_[static_cast<size_t>(i)].picColor->setStyleSheet(
+            swatchStyle(wb.FunctionColor[static_cast<size_t>(i)]));
+    }
+    lblProbSum_->setText(QString::fromStdString(wb.lblProbSum));
+    for (int k = 0; k < 4; ++k) {
+        txtWin_[k]->setText(QString::fromStdString(wb.txtWin[k]));
+        txtDesign_[k]->setText(QString::fromStdString(wb.txtDesign[k]));
+    }
+}
+
+}  // namespace quillane

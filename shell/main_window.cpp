@@ -1,0 +1,271 @@
+#include "shell/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QLocale>
+#include <QMenuBar>
+#include <QStatusBar>
+
+#include "core/menu_tree.h"
+#include "render/scale.h"
+#include "shell/fractal_commands.h"
+#include "shell/fractal_window.h"
+#include "shell/functions_window.h"
+
+namespace quillane {
+
+namespace {
+
+constexpr int WindowItems = 22;  // mnuWin(0) to (21)
+constexpr int StatusPanels = 2;
+constexpr int TwipsPerInch = 1440;
+
+// The array name of an item key: "mnuWin(1)" gives "mnuWin" and 1.
+bool splitKey(const std::string& key, std::string& name, int& index) {
+    const size_t open = key.find('(');
+    if (open == std::string::npos || key.back() != ')') return false;
+    name = key.substr(0, open);
+    index = std::stoi(key.substr(open + 1));
+    return true;
+}
+
+}  // namespace
+
+FrameStart FrameStart::fromApplication() {
+    QStringList arguments = QCoreApplication::arguments();
+    if (!arguments.isEmpty()) arguments.removeFirst();
+    FrameStart start;
+    start.commandLine = arguments.join(' ').toStdString();
+    start.programDir = QCoreApplication::applicationDirPath().toStdString();
+    start.localeText = QLocale().toString(1.2).toStdString();
+    return start;
+}
+
+MainWindow::MainWindow(QWidget* parent)
+    : MainWindow(std::make_unique<QtHost>(QCoreApplication::applicationDirPath()), nullptr,
+                 FrameStart::fromApplication(), parent) {}
+
+MainWindow::MainWindow(Host& host, FrameStart start, QWidget* parent)
+    : MainWindow(nullptr, &host, std::move(start), parent) {}
+
+MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart start, QWidget* parent)
+    : QMainWindow(parent),
+      ownHost_(std::move(ownHost)),
+      host_(host ? *host : *ownHost_),
+      start_(std::move(start)) {
+    setObjectName("MDIForm1");
+    setWindowTitle(QString::fromStdString(state_.wb.FrameCaption));
+    InitializeMenuState(state_.wb.Menu);
+    auto has = [this](const std::string& key) { return hasCommand(key); };
+    menus_ = new FrameMenus(
+        state_.wb.Menu, menuBar(), this, [this](const std::string& key) { runCommand(key); }, has);
+    toolbar_ = new FrameToolbar(
+        state_.wb, [this](const std::string& key) { runCommand(key); }, has, this);
+    addToolBar(Qt::TopToolBarArea, toolbar_);
+    buildStatusBar();
+    buildChildren();
+    registerFrameCommands();
+    RegisterFractalCommands(*this);
+    state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
+    if (ownHost_) {
+        ownHost_->setParentWidget(this);
+        // Only the picture changes during a run; the table stays as it was.
+        ownHost_->onYield = [this] { fractal_->refresh(); };
+    }
+    resize(1040, 760);
+    qApp->installEventFilter(this);
+}
+
+MainWindow::~MainWindow() {
+    state_.wb.Menu.observer = nullptr;
+    if (ownHost_) ownHost_->onYield = nullptr;
+    // The child windows hold the state and the host: they go first.
+    delete mdi_;
+    mdi_ = nullptr;
+}
+
+void MainWindow::buildStatusBar() {
+    for (int i = 0; i < StatusPanels; ++i) {
+        auto* panel = new QLabel(this);
+        panel->setObjectName(QString("StatusBar1.Panels(%1)").arg(i + 1));
+        panel->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        statusBar()->addWidget(panel, i == 0 ? 3 : 1);
+        statusPanels_.push_back(panel);
+    }
+}
+
+void MainWindow::buildChildren() {
+    mdi_ = new QMdiArea(this);
+    mdi_->setObjectName("MDIClient");
+    mdi_->setBackground(QColor(171, 171, 171));
+    setCentralWidget(mdi_);
+    functions_ = new FunctionsWindow(state_);
+    fractal_ = new FractalWindow(state_, host_);
+    children_[0] = mdi_->addSubWindow(functions_);
+    children_[1] = mdi_->addSubWindow(fractal_);
+    // A child's close box only hides it: the Window menu brings it back.
+    for (QMdiSubWindow* child : children_) child->setAttribute(Qt::WA_DeleteOnClose, false);
+    placeChildren();
+    connect(mdi_, &QMdiArea::subWindowActivated, this, &MainWindow::childActivated);
+}
+
+// The default sizes of the settings, in 1/1440 inch. The fractal window stands beside the table
+// rather than over its right part, where our table keeps the coefficients.
+void MainWindow::placeChildren() {
+    const double scale = logicalDpiX() / static_cast<double>(TwipsPerInch);
+    auto px = [scale](int twips) { return static_cast<int>(twips * scale + 0.5); };
+    const int functionWidth = 10010, functionHeight = 7500, fractalWidth = 5200, fractalHeight = 6000;
+    children_[0]->setGeometry(0, 0, px(functionWidth), px(functionHeight));
+    children_[1]->setGeometry(px(functionWidth), 0, px(fractalWidth), px(fractalHeight));
+}
+
+void MainWindow::registerFrameCommands() {
+    setCommand("mnuExit", [this] {
+        if (mnuExit_Click(state_.wb, host_, flags_, settingsHooks_)) close();
+    });
+    setCommand("mnuEditToolTips", [this] {
+        Workbench& wb = state_.wb;
+        wb.Menu.setChecked("mnuEditToolTips", !wb.menu("mnuEditToolTips").checked);
+        wb.SettingsChanged = true;
+    });
+    for (int i = 0; i < static_cast<int>(children_.size()); ++i)
+        setCommand(MenuTable::key("mnuWin", i), [this, i] { showChild(i); });
+    for (int action = 1; action <= 3; ++action)
+        setCommand(MenuTable::key("mnuWinAction", action), [this, action] { actOnCheckedChild(action); });
+}
+
+void MainWindow::start() {
+    StartHooks hooks;
+    hooks.settings = settingsHooks_;
+    hooks.setscale = [this] { setscale(state_.wb, host_); };
+    hooks.showWindows = [this] {
+        for (QMdiSubWindow* child : children_) child->show();
+        refreshWindows();
+        host_.yield();
+    };
+    flags_ = StartProgram(state_.wb, host_, start_.commandLine, start_.programDir, start_.localeText, hooks);
+    if (QMdiSubWindow* active = mdi_->activeSubWindow()) childActivated(active);
+    menus_->syncAll();
+    toolbar_->sync();
+    refreshWindows();
+}
+
+void MainWindow::setCommand(const std::string& key, Command command) {
+    commands_[key] = std::move(command);
+    menus_->sync(key);
+    toolbar_->sync();
+}
+
+void MainWindow::setArrayCommand(const std::string& name, ArrayCommand command, int firstIndex) {
+    arrayCommands_[name] = {std::move(command), firstIndex};
+    menus_->syncAll();
+    toolbar_->sync();
+}
+
+bool MainWindow::hasCommand(const std::string& key) const {
+    if (commands_.count(key)) return true;
+    std::string name;
+    int index = 0;
+    if (!splitKey(key, name, index)) return false;
+    const auto array = arrayCommands_.find(name);
+    return array != arrayCommands_.end() && index >= array->second.firstIndex;
+}
+
+void MainWindow::runCommand(const std::string& key) {
+    if (const auto it = commands_.find(key); it != commands_.end()) {
+        // A copy: the command may register another under the same key.
+        Command command = it->second;
+        command();
+    } else {
+        std::string name;
+        int index = 0;
+        if (!splitKey(key, name, index)) return;
+        const auto array = arrayCommands_.find(name);
+        if (array == arrayCommands_.end() || index < array->second.firstIndex) return;
+        ArrayCommand command = array->second.command;
+        command(index);
+    }
+    syncAfterCommand(key);
+}
+
+// A click ticks or unticks a checkable item by itself; the table decides what stays.
+void MainWindow::syncAfterCommand(const std::string& key) {
+    menus_->sync(key);
+    for (const std::string& member : RadioGroupKeys(key)) menus_->sync(member);
+    toolbar_->sync();
+    refreshWindows();
+}
+
+void MainWindow::menuChanged(const std::string& key) {
+    menus_->sync(key);
+    toolbar_->sync();
+}
+
+void MainWindow::refreshWindows() {
+    setWindowTitle(QString::fromStdString(state_.wb.FrameCaption));
+    functions_->refresh();
+    fractal_->refresh();
+}
+
+QMdiSubWindow* MainWindow::childWindow(int index) const {
+    if (index < 0 || index >= static_cast<int>(children_.size())) return nullptr;
+    return children_[index];
+}
+
+void MainWindow::checkWindowItem(int index) {
+    for (int k = 0; k < WindowItems; ++k) state_.wb.Menu.setChecked(MenuTable::key("mnuWin", k), k == index);
+}
+
+void MainWindow::showChild(int index) {
+    QMdiSubWindow* child = childWindow(index);
+    if (!child) return;
+    checkWindowItem(-1);
+    if (child->isMinimized()) child->showNormal();
+    child->show();
+    child->widget()->show();
+    mdi_->setActiveSubWindow(child);
+    child->raise();
+    checkWindowItem(index);
+}
+
+void MainWindow::actOnCheckedChild(int action) {
+    for (int index = 0; index < static_cast<int>(children_.size()); ++index) {
+        if (!state_.wb.menu(MenuTable::key("mnuWin", index)).checked) continue;
+        QMdiSubWindow* child = children_[index];
+        if (action == 1) child->showMinimized();
+        if (action == 2) child->showMaximized();
+        if (action == 3) child->showNormal();
+        return;
+    }
+}
+
+void MainWindow::childActivated(QMdiSubWindow* window) {
+    for (int index = 0; index < static_cast<int>(children_.size()); ++index)
+        if (children_[index] == window) checkWindowItem(index);
+}
+
+void MainWindow::setStatusText(int panel, const QString& text) {
+    if (panel >= 0 && panel < static_cast<int>(statusPanels_.size())) statusPanels_[panel]->setText(text);
+}
+
+QString MainWindow::statusText(int panel) const {
+    if (panel < 0 || panel >= static_cast<int>(statusPanels_.size())) return {};
+    return statusPanels_[panel]->text();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ToolTip && !state_.wb.menu("mnuEditToolTips").checked) return true;
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!QueryUnload(state_.wb, host_, flags_, settingsHooks_)) {
+        event->ignore();
+        return;
+    }
+    for (QMdiSubWindow* child : children_) child->hide();
+    event->accept();
+}
+
+}  // namespace quillane

@@ -1,0 +1,178 @@
+#include "shell/fractal_window.h"
+
+#include <QMdiSubWindow>
+#include <QScrollArea>
+#include <QTest>
+
+#include "render/fractal_view.h"
+#include "shell/functions_window.h"
+#include "shell/picture_widget.h"
+#include "tests/shell/frame_fixture.h"
+
+namespace quillane::testing {
+namespace {
+
+class FractalWindowTest : public FrameTest {
+  protected:
+    void SetUp() override {
+        dir.write("default.ifs", GoodBlock + OtherBlock);
+        open();
+        wb().Rng.pin(11);
+        QApplication::processEvents();
+    }
+    FractalWindow& fractal() { return *frame->fractalWindow(); }
+    PictureWidget& picture() { return *fractal().picture(); }
+    double side() const { return frame->state().wb.Window.xmax - frame->state().wb.Window.xmin; }
+    int paintedPixels() {
+        const RasterSurface& p = frame->state().pics.picfractal;
+        int n = 0;
+        for (int r = 0; r < p.height(); ++r)
+            for (int c = 0; c < p.width(); ++c) n += p.pixel(c, r) != White;
+        return n;
+    }
+    // Draws a fixed number of points through the menu command path.
+    void drawPoints(int32_t n) {
+        frame->state().pics.LastFixedCount = n;
+        QTest::keyClick(&picture(), Qt::Key_D, Qt::ControlModifier | Qt::AltModifier);
+    }
+};
+
+TEST_F(FractalWindowTest, ThePictureIsASquareShownFromTheSurfaceItself) {
+    const RasterSurface& p = frame->state().pics.picfractal;
+    EXPECT_GT(p.width(), 50);
+    EXPECT_EQ(p.width(), p.height());
+    EXPECT_EQ(picture().surface(), &p);
+    EXPECT_EQ(picture().size(), QSize(p.width(), p.height()));
+    EXPECT_EQ(frame->toolbar()->txtFractalSize()->text(), QString("%1 x %2").arg(p.width()).arg(p.height()));
+}
+
+TEST_F(FractalWindowTest, DrawRunsUntilQStopsItAtAYield) {
+    int yields = 0;
+    host.onYield = [&](int) {
+        if (wb().PointCount == 0) return;  // the yield before the drawing begins
+        ++yields;
+        fractal().refresh();  // what the program's host does at a yield
+        EXPECT_EQ(fractal().windowTitle().toStdString(), "Press Q to quit");
+        if (yields == 20) QTest::keyClick(&picture(), Qt::Key_Q);
+    };
+    frame->runCommand("mnuRun");
+    EXPECT_EQ(yields, 20);
+    EXPECT_FALSE(wb().DrawingActive);
+    EXPECT_EQ(wb().PointCount, 1950);
+    EXPECT_EQ(fractal().windowTitle().toStdString(), "Fractal (Random)");
+    EXPECT_EQ(fractal().findChild<QLabel*>("picCount")->text().toStdString(), "1900");
+    EXPECT_GT(paintedPixels(), 50);
+}
+
+TEST_F(FractalWindowTest, StopFromTheMenuAndDrawAgainContinues) {
+    host.onYield = [&](int) {
+        if (wb().PointCount % 500 == 450) frame->runCommand("mnuStop");
+    };
+    frame->runCommand("mnuRun");
+    EXPECT_EQ(wb().PointCount, 450);
+    frame->runCommand("mnuRun");
+    EXPECT_EQ(wb().PointCount, 950);
+    EXPECT_TRUE(wb().DrawingStarted);
+    frame->runCommand("mnuClear");
+    EXPECT_EQ(paintedPixels(), 0);
+    EXPECT_FALSE(wb().DrawingStarted);
+    EXPECT_EQ(fractal().findChild<QLabel*>("picCount")->text().toStdString(), "");
+}
+
+TEST_F(FractalWindowTest, PageDownZoomsOutPageUpZoomsInAndUndoGoesBackOneStep) {
+    drawPoints(2000);
+    // A zoom redraws a started drawing until it is stopped: stop each redraw at once.
+    host.onYield = [&](int) { wb().DrawingActive = false; };
+    const double start = side();
+    // The window goes through the three-decimal boxes of the table, so sides agree to 1e-3.
+    QTest::keyClick(&picture(), Qt::Key_PageDown);
+    EXPECT_NEAR(side(), start * 1.05, 2e-3);
+    QTest::keyClick(&picture(), Qt::Key_PageDown);
+    EXPECT_NEAR(side(), start * 1.05 * 1.05, 2e-3);
+    EXPECT_EQ(item("mnuUndo")->text().toStdString(), "&Undo Zoom");
+    EXPECT_TRUE(item("mnuUndo")->isEnabled());
+    item("mnuUndo")->trigger();
+    EXPECT_NEAR(side(), start * 1.05, 2e-3);
+    EXPECT_FALSE(item("mnuUndo")->isEnabled());
+    QTest::keyClick(&picture(), Qt::Key_PageUp);
+    EXPECT_NEAR(side(), start * 1.05 * 0.95, 2e-3);
+    // Home samples the attractor afresh: the window fits it again, up to the tenths it is rounded to.
+    QTest::keyClick(&picture(), Qt::Key_Home);
+    EXPECT_NEAR(side(), start, 0.11);
+    EXPECT_LT(wb().Window.xmin, 0.0f);
+    EXPECT_GT(wb().Window.xmax, 1.0f);
+}
+
+TEST_F(FractalWindowTest, ArrowsShiftTheViewByOnePercent) {
+    const WorldWindow before = wb().Window;
+    QTest::keyClick(&picture(), Qt::Key_Right);
+    EXPECT_NEAR(wb().Window.xmin - before.xmin, 0.01 * (before.xmax - before.xmin), 1e-3);
+    EXPECT_GT(wb().Window.xmin, before.xmin);
+    EXPECT_EQ(frame->functionsWindow()->findChild<QLineEdit*>("txtWin(2)")->text().toStdString(),
+              wb().txtWin[2]);
+}
+
+TEST_F(FractalWindowTest, ADragSelectsAndZoomInTakesTheRectangle) {
+    const QSize s = picture().size();
+    const QPoint from(s.width() / 4, s.height() / 4), to(s.width() / 2, s.height() / 2);
+    QTest::mousePress(&picture(), Qt::LeftButton, Qt::NoModifier, from);
+    QMouseEvent move(QEvent::MouseMove, QPointF(to), picture().mapToGlobal(QPointF(to)), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&picture(), &move);
+    QTest::mouseRelease(&picture(), Qt::LeftButton, Qt::NoModifier, to);
+    EXPECT_TRUE(frame->state().pics.Selection.SelectionActive);
+    EXPECT_EQ(item("mnuZoom")->text().toStdString(), "Zoom Selection\tPage Up");
+    const WorldPoint a = picture().worldAt(from), b = picture().worldAt(to);
+    host.onYield = [&](int) { wb().DrawingActive = false; };
+    QTest::keyClick(&picture(), Qt::Key_PageUp);
+    EXPECT_NEAR(wb().Window.xmin, std::min(a.x, b.x), 1e-5);
+    EXPECT_NEAR(wb().Window.ymax, std::max(a.y, b.y), 1e-5);
+    EXPECT_FALSE(frame->state().pics.Selection.SelectionActive);
+}
+
+TEST_F(FractalWindowTest, TheMouseShowsClampedCoordinates) {
+    QMouseEvent move(QEvent::MouseMove, QPointF(0, 0), picture().mapToGlobal(QPointF(0, 0)), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&picture(), &move);
+    const QString text = fractal().findChild<QLabel*>("picCoord")->text();
+    EXPECT_TRUE(text.startsWith("(")) << text.toStdString();
+    EXPECT_EQ(text.toStdString(), CoordinateText(wb().Window, picture().worldAt(QPoint(0, 0)).x,
+                                                 picture().worldAt(QPoint(0, 0)).y));
+}
+
+TEST_F(FractalWindowTest, FreezeScaleDisablesTheViewCommandsAndKeysSayWhy) {
+    item("mnuDrawFreezeScale")->trigger();
+    EXPECT_TRUE(item("mnuDrawFreezeScale")->isChecked());
+    for (const char* key : {"mnuCalcScale", "mnuDrawShift", "mnuDrawZoom", "mnuZoom", "mnuDrawRestore"})
+        EXPECT_FALSE(item(key)->isEnabled()) << key;
+    const WorldWindow before = wb().Window;
+    QTest::keyClick(&picture(), Qt::Key_PageDown);
+    EXPECT_EQ(wb().Window, before);
+    ASSERT_FALSE(host.shown().empty());
+    EXPECT_EQ(host.shown().back().title, "Not permitted");
+    EXPECT_EQ(host.shown().back().text, "Scale is frozen");
+}
+
+TEST_F(FractalWindowTest, TakingAListEntryShowsItInTheTable) {
+    item(EntryKey(2))->trigger();
+    EXPECT_EQ(frame->functionsWindow()->windowTitle().toStdString(), "IFS [Other]");
+    EXPECT_EQ(frame->functionsWindow()->row(0)[0]->text().toStdString(), "0.250");
+    EXPECT_TRUE(item(EntryKey(2))->isChecked());
+}
+
+TEST_F(FractalWindowTest, TheFunctionTableShowsTheRowsSwatchesAndWindow) {
+    FunctionsWindow& table = *frame->functionsWindow();
+    EXPECT_EQ(table.windowTitle().toStdString(), "IFS [First]");
+    EXPECT_EQ(table.findChild<QLineEdit*>("txtMaps")->text().toStdString(), "2");
+    const std::array<QString, 7> row1 = {"0.500", "0.000", "0.000", "0.500", "0.500", "0.000", "0.500"};
+    for (int k = 0; k < 7; ++k) EXPECT_EQ(table.row(1)[k]->text(), row1[k]) << k;
+    EXPECT_TRUE(table.row(1)[0]->isVisibleTo(&table));
+    EXPECT_FALSE(table.row(1)[7]->isVisibleTo(&table));  // fixed points only in the fixed point form
+    EXPECT_EQ(table.findChild<QLabel*>("lblProbSum")->text().toStdString(), "1.000");
+    EXPECT_TRUE(table.picColor(0)->styleSheet().contains("rgb(255,0,0)"));
+    EXPECT_EQ(table.findChild<QLineEdit*>("txtDesign(0)")->text().toStdString(), "1.100");
+    EXPECT_EQ(table.findChild<QLineEdit*>("txtWin(3)")->text().toStdString(), wb().txtWin[3]);
+}
+
+}  // namespace
+}  // namespace quillane::testing
