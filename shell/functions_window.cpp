@@ -13,6 +13,16 @@
 namespace quillane {
 
 namespace {
+// Refreshes run at every yield of a drawing: only changed texts are set.
+void setText(QLineEdit* box, const std::string& text) {
+    const QString t = QString::fromStdString(text);
+    if (box->text() != t) box->setText(t);
+}
+void setText(QLabel* label, const std::string& text) {
+    const QString t = QString::fromStdString(text);
+    if (label->text() != t) label->setText(t);
+}
+
 // txtWin and txtDesign are laid out as the window's edges: top ymax, bottom ymin, left xmin, right xmax.
 constexpr int TopBox = 0, BottomBox = 1, LeftBox = 2, RightBox = 3;
 
@@ -120,14 +130,15 @@ void FunctionsWindow::showRow(int i, bool visible) {
 
 void FunctionsWindow::refresh() {
     const Workbench& wb = state_.wb;
-    setWindowTitle(QString::fromStdString(wb.FunctionsCaption));
-    txtMaps_->setText(QString::fromStdString(wb.txtMaps));
+    if (windowTitle().toStdString() != wb.FunctionsCaption)
+        setWindowTitle(QString::fromStdString(wb.FunctionsCaption));
+    setText(txtMaps_, wb.txtMaps);
     const IFSEntry& ifs = wb.CurrentIFS;
     lblComment_->setVisible(ifs.nComments > 0);
-    if (ifs.nComments > 0) lblComment_->setText(QString::fromStdString(Trim(ifs.Comment[1])));
+    if (ifs.nComments > 0) setText(lblComment_, Trim(ifs.Comment[1]));
     const auto headings = ColumnHeadings(wb);
     for (int k = 0; k < TableColumns; ++k) {
-        headings_[k]->setText(QString::fromStdString(headings[k]));
+        setText(headings_[k], headings[k]);
         headings_[k]->setVisible(!headings[k].empty());
     }
     const int n = std::min<int>(ifs.nMaps, MaxMaps);
@@ -136,15 +147,15 @@ void FunctionsWindow::refresh() {
         showRow(i, i < n);
         if (i >= n) continue;
         const auto texts = RowTexts(wb, i);
-        for (int k = 0; k < TableColumns; ++k)
-            rows_[static_cast<size_t>(i)].boxes[k]->setText(QString::fromStdString(texts[k]));
-        rows_[static_cast<size_t>(i)].picColor->setStyleSheet(
-            swatchStyle(wb.FunctionColor[static_cast<size_t>(i)]));
+        Row& row = rows_[static_cast<size_t>(i)];
+        for (int k = 0; k < TableColumns; ++k) setText(row.boxes[k], texts[k]);
+        const QString style = swatchStyle(wb.FunctionColor[static_cast<size_t>(i)]);
+        if (row.picColor->styleSheet() != style) row.picColor->setStyleSheet(style);
     }
-    lblProbSum_->setText(QString::fromStdString(wb.lblProbSum));
+    setText(lblProbSum_, wb.lblProbSum);
     for (int k = 0; k < 4; ++k) {
-        txtWin_[k]->setText(QString::fromStdString(wb.txtWin[k]));
-        txtDesign_[k]->setText(QString::fromStdString(wb.txtDesign[k]));
+        setText(txtWin_[k], wb.txtWin[k]);
+        setText(txtDesign_[k], wb.txtDesign[k]);
     }
 }
 

@@ -70,8 +70,8 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
-        // Only the picture changes during a run; the table stays as it was.
-        ownHost_->onYield = [this] { fractal_->refresh(); };
+        // A view change during a run rewrites the table's window boxes too, so both windows follow.
+        ownHost_->onYield = [this] { refreshWindows(); };
     }
     resize(1040, 760);
     qApp->installEventFilter(this);
