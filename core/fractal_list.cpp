@@ -1,5 +1,6 @@
 #include "core/fractal_list.h"
 
+#include "core/function_table.h"
 #include "core/host.h"
 #include "core/numbers.h"
 #include "core/workbench.h"
@@ -92,6 +93,7 @@ bool TakeListEntry(Workbench& wb, int n) {
     wb.FunctionsCaption = "IFS [" + Trim(entry.Name) + "]";
     wb.txtMaps = std::to_string(entry.nMaps);
     wb.CurrentIFS = entry;
+    WriteTableRows(wb);
     wb.SelectedIFS = static_cast<int16_t>(n);
     CheckListEntry(wb, n);
     return true;

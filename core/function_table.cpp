@@ -56,6 +56,18 @@ std::array<std::string, TableColumns> RowTexts(const Workbench& wb, int i) {
     return t;
 }
 
+void WriteTableRows(Workbench& wb) {
+    const int n = wb.mapsFromText();
+    for (int i = 0; i < n; ++i) {
+        const auto texts = RowTexts(wb, i);
+        for (int k = 1; k <= TableColumnCount; ++k) {
+            wb.Table.text(k, i) = texts[static_cast<size_t>(k - 1)];
+            wb.Table.old(k, i) = texts[static_cast<size_t>(k - 1)];
+        }
+    }
+    wb.Table.LastMaps = n;
+}
+
 std::string FunctionsCaptionFor(const std::string& name) {
     return "IFS [" + Trim(name) + "]";
 }

@@ -21,6 +21,10 @@ RotationForm PrintRotation(float a, float b, float c, float d);
 // The texts of row i in the form in use: coefficients and probabilities "0.000", angles "0.00".
 std::array<std::string, TableColumns> RowTexts(const Workbench& wb, int i);
 
+// Rewrites the texts of rows 0 to n - 1 (n from txtMaps) from CurrentIFS in the form in use, and keeps
+// them as the old texts.
+void WriteTableRows(Workbench& wb);
+
 // The caption of the table window for an IFS name.
 std::string FunctionsCaptionFor(const std::string& name);
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "core/function_table.h"
 #include "core/menu_tree.h"
 #include "core/numbers.h"
 #include "core/workbench.h"
@@ -53,6 +54,7 @@ void takeDefaultIFS(Workbench& wb) {
     wb.CurrentIFS = DefaultIFS();
     wb.FunctionsCaption = "IFS [Untitled]";
     wb.txtMaps = "1";
+    WriteTableRows(wb);
     wb.SelectedIFS = 0;
 }
 

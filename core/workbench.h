@@ -10,6 +10,7 @@
 #include "core/ifs_entry.h"
 #include "core/menu_state.h"
 #include "core/random.h"
+#include "core/table_text.h"
 
 namespace quillane {
 
@@ -80,6 +81,8 @@ class Workbench {
     std::string FractalWindowCaption = "Fractal (Random)";
     // The five flags of the function table that remember a recursive generator drew the IFS.
     std::array<bool, 5> TableRecursionFlags{};
+    // The boxes of the function table's rows.
+    FunctionTableText Table;
 
     // Files and settings.
     std::string IFSFileName;  // the list's file, empty when none is loaded

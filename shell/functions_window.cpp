@@ -146,9 +146,8 @@ void FunctionsWindow::refresh() {
     for (int i = 0; i < static_cast<int>(rows_.size()); ++i) {
         showRow(i, i < n);
         if (i >= n) continue;
-        const auto texts = RowTexts(wb, i);
         Row& row = rows_[static_cast<size_t>(i)];
-        for (int k = 0; k < TableColumns; ++k) setText(row.boxes[k], texts[k]);
+        for (int k = 0; k < TableColumns; ++k) setText(row.boxes[k], wb.Table.text(k + 1, i));
         const QString style = swatchStyle(wb.FunctionColor[static_cast<size_t>(i)]);
         if (row.picColor->styleSheet() != style) row.picColor->setStyleSheet(style);
     }
