@@ -27,6 +27,10 @@ void repairProbabilities(IFSEntry& entry) {
     for (int i = 0; i < n - 1; ++i) entry.p[i] = static_cast<float>(q);
     entry.p[n - 1] = static_cast<float>(Round(1.0 - (n - 1) * q, 6));
 }
+
+std::string firstComment(const IFSEntry& ifs) {
+    return ifs.nComments >= 1 ? RTrim(ifs.Comment[1]) : std::string();
+}
 }  // namespace
 
 std::string NamesKey(int index) {
@@ -91,9 +95,11 @@ bool TakeListEntry(Workbench& wb, int n) {
     if (entry.nMaps <= 0 || entry.nMaps > MaxMaps) return false;
     repairProbabilities(entry);
     wb.FunctionsCaption = "IFS [" + Trim(entry.Name) + "]";
+    wb.lblComment = firstComment(entry);
     wb.txtMaps = std::to_string(entry.nMaps);
     wb.CurrentIFS = entry;
-    WriteTableRows(wb);
+    // Taking an entry shows r and s rounded and its own phi for d = 0; the next edit of a row puts it right.
+    WriteTableRows(wb, RowTextSource::ListEntry);
     wb.SelectedIFS = static_cast<int16_t>(n);
     CheckListEntry(wb, n);
     return true;

@@ -1,5 +1,6 @@
 #include "core/numbers.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -63,7 +64,16 @@ double Val(std::string_view text) {
         }
         if (expDigit) digits += exponent;
     }
-    double v = std::strtod(digits.c_str(), nullptr);
+    // from_chars reads "." whatever the locale, unlike strtod.
+    double v = 0;
+    const char* first = digits.c_str();
+    if (*first == '+') ++first;
+    const auto [end, ec] = std::from_chars(first, digits.c_str() + digits.size(), v);
+    (void)end;
+    if (ec == std::errc::result_out_of_range) {
+        const bool tiny = digits.find("e-") != std::string::npos;
+        v = tiny ? 0.0 : ((*first == '-') ? -HUGE_VAL : HUGE_VAL);
+    }
     if (!std::isfinite(v))
         return v > 0 ? std::numeric_limits<double>::max() : -std::numeric_limits<double>::max();
     return v;
@@ -130,6 +140,8 @@ std::string strWithDigits(double x, int digits) {
     char buf[64];
     std::snprintf(buf, sizeof buf, "%.*G", digits, x);
     std::string s = buf;
+    for (char& ch : s)
+        if (ch == ',') ch = '.';  // the runtime prints "." whatever the locale
     // The runtime writes two-digit exponents ("1E+07") and drops the leading zero (".5").
     size_t e = s.find('E');
     if (e != std::string::npos) {

@@ -77,12 +77,25 @@ class Workbench {
     std::array<std::string, 4> txtDesign{"1.100", "-0.100", "-0.100",
                                          "1.100"};  // the design window, same order
     std::string lblProbSum = "1.000";
+    std::string lblComment;  // the first comment line of CurrentIFS; the label is hidden while empty
     std::string FrameCaption = "Quillane";
     std::string FractalWindowCaption = "Fractal (Random)";
     // The five flags of the function table that remember a recursive generator drew the IFS.
     std::array<bool, 5> TableRecursionFlags{};
     // The boxes of the function table's rows.
     FunctionTableText Table;
+    // a, b, c, d of the row whose box was entered last, as they stood then (EnterBox).
+    int16_t EnteredRow = -1;
+    std::array<float, 4> EnteredCoefficients{};
+    // The undo stores: the selected map before a change (SaveOriginalIFS), and the box of a text entry.
+    IFSFunction OriginalMap;
+    bool GestureSaved = false;
+    int16_t TextUndoField = 0;
+    float TextUndoValue = 0;
+    // The design window: its WorldWindow (mirrored by txtDesign) and captions.
+    WorldWindow DesignWindow{-0.1f, 1.1f, -0.1f, 1.1f};
+    std::string DesignCaption = "Design (IFS)";
+    std::string ScaleCGCaption = "Chaos Game Design";  // frmScaleCG
 
     // Files and settings.
     std::string IFSFileName;  // the list's file, empty when none is loaded

@@ -6,8 +6,10 @@
 
 #include "render/fractal_view.h"
 #include "render/list_entry_commands.h"
+#include "render/table_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/frame_toolbar.h"
+#include "shell/functions_window.h"
 #include "shell/how_many_dialog.h"
 #include "shell/image_size_dialog.h"
 #include "shell/main_window.h"
@@ -63,9 +65,6 @@ void registerDrawing(MainWindow& frame) {
         DrawFixedNumber(s.wb, s.pics, host, dialog.result());
     });
     frame.setCommand("mnuDrawType(0)", [] {});  // Random is the drawing type in use
-    // The list entries; the commands above the separator come with the list editing.
-    frame.setArrayCommand(
-        "mnuNames", [&s, &host](int index) { mnuNamesEntry_Click(s.wb, s.pics, host, index); }, 5);
 }
 
 void registerView(MainWindow& frame) {
@@ -85,8 +84,14 @@ void registerView(MainWindow& frame) {
     for (int i = 0; i < 4; ++i)
         frame.setCommand("mnuDrawShiftDir(" + std::to_string(i) + ")",
                          [&s, &host, i] { ShiftDrawWin(s.wb, s.pics, host, keys[i]); });
-    frame.setCommand("mnuUndo", [&s, &host] {
-        if (s.wb.menu("mnuUndo").caption == UndoZoomCaption) UndoZoom(s.wb, s.pics, host);
+    frame.setCommand("mnuUndo", [&frame, &s, &host] {
+        const std::string caption = s.wb.menu("mnuUndo").caption;
+        if (caption == UndoZoomCaption) {
+            UndoZoom(s.wb, s.pics, host);
+        } else if (caption == UndoTextEntryCaption) {
+            const auto box = UndoTextEntry(s.wb);
+            if (box && frame.functionsWindow()) frame.functionsWindow()->selectBox(box->column, box->row);
+        }
     });
     frame.setCommand("mnuDrawSetImageSize", [&frame, &s, &host] {
         FractalWindow* fractal = frame.fractalWindow();

@@ -6,9 +6,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "core/numbers.h"
+#include "core/table_editing.h"
 
 namespace quillane {
 
@@ -29,7 +31,6 @@ constexpr int TopBox = 0, BottomBox = 1, LeftBox = 2, RightBox = 3;
 QLineEdit* numberBox(QWidget* parent, const QString& name, int chars) {
     auto* box = new QLineEdit(parent);
     box->setObjectName(name);
-    box->setReadOnly(true);
     box->setAlignment(Qt::AlignRight);
     box->setFixedWidth(box->fontMetrics().horizontalAdvance(QString(chars, '8')) + 12);
     return box;
@@ -43,19 +44,24 @@ QString swatchStyle(Color c) {
 }
 }  // namespace
 
-FunctionsWindow::FunctionsWindow(AppState& state, QWidget* parent) : QWidget(parent), state_(state) {
+FunctionsWindow::FunctionsWindow(AppState& state, Host& host, QWidget* parent)
+    : QWidget(parent), state_(state), host_(host) {
     setObjectName("frmfunctions");
     auto* layout = new QVBoxLayout(this);
 
     auto* top = new QHBoxLayout;
     top->addWidget(new QLabel("Number of functions:", this));
     txtMaps_ = numberBox(this, "txtMaps", 4);
+    watch(txtMaps_, {BoxKind::Maps, 0, 0});
     top->addWidget(txtMaps_);
     lblComment_ = new QLabel(this);
     lblComment_->setObjectName("lblComment");
+    lblComment_->setCursor(Qt::PointingHandCursor);
+    lblComment_->installEventFilter(this);
     top->addWidget(lblComment_, 1);
     layout->addLayout(top);
 
+    pages_ = new QStackedWidget;
     auto* table = new QWidget;
     grid_ = new QGridLayout(table);
     grid_->setHorizontalSpacing(4);
@@ -66,9 +72,16 @@ FunctionsWindow::FunctionsWindow(AppState& state, QWidget* parent) : QWidget(par
         grid_->addWidget(headings_[k], 0, k + 1);
     }
     grid_->setRowStretch(MaxMaps + 1, 1);
+    grid_->setColumnStretch(TableColumns + 1, 1);
+    auto* functionPage = new QWidget;
+    blocks_ = new QGridLayout(functionPage);
+    blocks_->setRowStretch(MaxMatrixFunctionForm, 1);
+    blocks_->setColumnStretch(2, 1);
+    pages_->addWidget(table);
+    pages_->addWidget(functionPage);
     auto* picCompact = new QScrollArea(this);
     picCompact->setObjectName("picCompact");
-    picCompact->setWidget(table);
+    picCompact->setWidget(pages_);
     picCompact->setWidgetResizable(true);
     layout->addWidget(picCompact, 1);
 
@@ -93,7 +106,11 @@ QWidget* FunctionsWindow::buildWindowBoxes(const QString& title, const QString& 
                                            std::array<QLineEdit*, 4>& boxes) {
     auto* group = new QGroupBox(title, this);
     auto* grid = new QGridLayout(group);
-    for (int k = 0; k < 4; ++k) boxes[k] = numberBox(group, QString("%1(%2)").arg(prefix).arg(k), 7);
+    const BoxKind kind = prefix == "txtWin" ? BoxKind::Win : BoxKind::Design;
+    for (int k = 0; k < 4; ++k) {
+        boxes[k] = numberBox(group, QString("%1(%2)").arg(prefix).arg(k), 7);
+        watch(boxes[k], {kind, 0, k});
+    }
     grid->addWidget(boxes[TopBox], 0, 1);
     grid->addWidget(boxes[LeftBox], 1, 0);
     grid->addWidget(boxes[RightBox], 1, 2);
@@ -112,9 +129,12 @@ void FunctionsWindow::ensureRows(int n) {
         r.picColor->setObjectName(QString("picColor(%1)").arg(i));
         r.picColor->setAlignment(Qt::AlignCenter);
         r.picColor->setFixedWidth(r.picColor->fontMetrics().horizontalAdvance("8888") + 6);
+        r.picColor->setCursor(Qt::PointingHandCursor);
+        r.picColor->installEventFilter(this);
         grid_->addWidget(r.picColor, i + 1, 0);
         for (int k = 0; k < TableColumns; ++k) {
             r.boxes[k] = numberBox(table, QString("%1(%2)").arg(names[k]).arg(i), 7);
+            watch(r.boxes[k], {BoxKind::Row, k + 1, i});
             grid_->addWidget(r.boxes[k], i + 1, k + 1);
         }
         rows_.push_back(r);
@@ -125,7 +145,10 @@ void FunctionsWindow::showRow(int i, bool visible) {
     Row& r = rows_[static_cast<size_t>(i)];
     r.picColor->setVisible(visible);
     const bool fixedPoint = state_.wb.CodeForm == 2;
-    for (int k = 0; k < TableColumns; ++k) r.boxes[k]->setVisible(visible && (k < 7 || fixedPoint));
+    for (int k = 0; k < TableColumns; ++k) {
+        r.boxes[k]->setVisible(visible && (k < 7 || fixedPoint));
+        r.boxes[k]->setReadOnly(BoxLocked(state_.wb, k + 1));
+    }
 }
 
 void FunctionsWindow::refresh() {
@@ -134,8 +157,8 @@ void FunctionsWindow::refresh() {
         setWindowTitle(QString::fromStdString(wb.FunctionsCaption));
     setText(txtMaps_, wb.txtMaps);
     const IFSEntry& ifs = wb.CurrentIFS;
-    lblComment_->setVisible(ifs.nComments > 0);
-    if (ifs.nComments > 0) setText(lblComment_, Trim(ifs.Comment[1]));
+    lblComment_->setVisible(!wb.lblComment.empty());
+    setText(lblComment_, wb.lblComment);
     const auto headings = ColumnHeadings(wb);
     for (int k = 0; k < TableColumns; ++k) {
         setText(headings_[k], headings[k]);
@@ -143,6 +166,7 @@ void FunctionsWindow::refresh() {
     }
     const int n = std::min<int>(ifs.nMaps, MaxMaps);
     ensureRows(n);
+    arrange(wb.CodeForm == 0 && wb.MatrixFunctionForm == 1 ? Layout::Function : Layout::Compact);
     for (int i = 0; i < static_cast<int>(rows_.size()); ++i) {
         showRow(i, i < n);
         if (i >= n) continue;
@@ -156,6 +180,61 @@ void FunctionsWindow::refresh() {
         setText(txtWin_[k], wb.txtWin[k]);
         setText(txtDesign_[k], wb.txtDesign[k]);
     }
+}
+
+}  // namespace quillane
+
+namespace quillane {
+
+void FunctionsWindow::placeCompact(int i) {
+    Row& r = rows_[static_cast<size_t>(i)];
+    grid_->addWidget(r.picColor, i + 1, 0);
+    for (int k = 0; k < TableColumns; ++k) grid_->addWidget(r.boxes[k], i + 1, k + 1);
+}
+
+// x' = | a b | x + | e |   p
+// y'   | c d | y   | f |
+void FunctionsWindow::placeInBlock(int i) {
+    Row& r = rows_[static_cast<size_t>(i)];
+    if (!r.block) {
+        r.block = new QWidget;
+        r.block->setObjectName(QString("picMatrix(%1)").arg(i));
+        auto* g = new QGridLayout(r.block);
+        g->setContentsMargins(4, 4, 4, 4);
+        g->setHorizontalSpacing(3);
+        g->addWidget(new QLabel("x' =", r.block), 0, 1);
+        g->addWidget(new QLabel("y' =", r.block), 1, 1);
+        g->addWidget(new QLabel("x +", r.block), 0, 4);
+        g->addWidget(new QLabel("y +", r.block), 1, 4);
+        g->addWidget(new QLabel("p =", r.block), 0, 6);
+        blocks_->addWidget(r.block, i / 2, i % 2);
+    }
+    auto* g = static_cast<QGridLayout*>(r.block->layout());
+    g->addWidget(r.picColor, 0, 0, 2, 1);
+    g->addWidget(r.boxes[0], 0, 2);
+    g->addWidget(r.boxes[1], 0, 3);
+    g->addWidget(r.boxes[2], 1, 2);
+    g->addWidget(r.boxes[3], 1, 3);
+    g->addWidget(r.boxes[4], 0, 5);
+    g->addWidget(r.boxes[5], 1, 5);
+    g->addWidget(r.boxes[6], 0, 7);
+}
+
+void FunctionsWindow::arrange(Layout layout) {
+    const bool changed = layout != layout_;
+    layout_ = layout;
+    const int n = std::min<int>(state_.wb.CurrentIFS.nMaps, MaxMaps);
+    for (int i = 0; i < static_cast<int>(rows_.size()); ++i) {
+        Row& r = rows_[static_cast<size_t>(i)];
+        if (layout == Layout::Function && i < MaxMatrixFunctionForm) {
+            if (changed || !r.block) placeInBlock(i);
+            r.block->setVisible(i < n);
+        } else {
+            if (changed && r.block) placeCompact(i);
+            if (r.block) r.block->setVisible(false);
+        }
+    }
+    pages_->setCurrentIndex(layout == Layout::Function ? 1 : 0);
 }
 
 }  // namespace quillane

@@ -9,6 +9,7 @@
 
 #include "core/menu_tree.h"
 #include "render/scale.h"
+#include "shell/code_commands.h"
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/functions_window.h"
@@ -65,8 +66,11 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     addToolBar(Qt::TopToolBarArea, toolbar_);
     buildStatusBar();
     buildChildren();
+    dialogs_ = QtShellDialogs(this);
     registerFrameCommands();
     RegisterFractalCommands(*this);
+    RegisterCodeCommands(*this);
+    RegisterListAndFileCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
@@ -100,7 +104,8 @@ void MainWindow::buildChildren() {
     mdi_->setObjectName("MDIClient");
     mdi_->setBackground(QColor(171, 171, 171));
     setCentralWidget(mdi_);
-    functions_ = new FunctionsWindow(state_);
+    functions_ = new FunctionsWindow(state_, host_);
+    functions_->afterEdit = [this] { refreshWindows(); };
     fractal_ = new FractalWindow(state_, host_);
     children_[0] = mdi_->addSubWindow(functions_);
     children_[1] = mdi_->addSubWindow(fractal_);

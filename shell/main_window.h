@@ -16,6 +16,7 @@
 #include "shell/app_state.h"
 #include "shell/frame_menus.h"
 #include "shell/frame_toolbar.h"
+#include "shell/list_dialogs.h"
 #include "shell/qt_host.h"
 
 namespace quillane {
@@ -59,6 +60,8 @@ class MainWindow : public QMainWindow {
     void refreshWindows();
 
     AppState& state() { return state_; }
+    // The list, name and comment dialogs; tests put scripts in their place.
+    ShellDialogs& dialogs() { return dialogs_; }
     Host& host() { return host_; }
     StartFlags& flags() { return flags_; }
     QAction* menuAction(const std::string& key) const { return menus_->action(key); }
@@ -96,6 +99,7 @@ class MainWindow : public QMainWindow {
     Host& host_;
     FrameStart start_;
     AppState state_;
+    ShellDialogs dialogs_;
     StartFlags flags_;
     // The settings file's reader and writer plug in here; until then the start runs on defaults.
     SettingsHooks settingsHooks_;

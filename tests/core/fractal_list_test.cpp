@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/function_table.h"
 #include "tests/core/list_file_fixture.h"
 
 namespace quillane {
@@ -143,6 +144,102 @@ TEST_F(TakeEntry, AnEntryBeyondTheListIsNotTaken) {
     EXPECT_FALSE(TakeListEntry(wb, host, 2));
     EXPECT_FALSE(TakeListEntry(wb, host, 0));
     EXPECT_EQ(wb.CurrentIFS.Name, "Untitled");
+}
+
+}  // namespace
+}  // namespace quillane
+
+namespace quillane {
+namespace {
+
+using testing::numberedEntry;
+using testing::setList;
+using Texts = std::vector<std::string>;
+
+Texts rowText(const Workbench& wb, int row) {
+    Texts t;
+    for (int k = 1; k <= 7; ++k) t.push_back(wb.Table.text(k, row));
+    return t;
+}
+
+Texts rowOldText(Workbench& wb, int row) {
+    Texts t;
+    for (int k = 1; k <= 7; ++k) t.push_back(wb.Table.old(k, row));
+    return t;
+}
+
+// One map with d = 0 and b < 0: a quarter turn.
+IFSEntry quarterTurn() {
+    IFSEntry e = numberedEntry("Turn", 1);
+    e.a[0] = 0;
+    e.b[0] = -0.5f;
+    e.c[0] = 0.5f;
+    e.d[0] = 0;
+    e.e[0] = 0.25f;
+    e.f[0] = 0;
+    e.p[0] = 1;
+    return e;
+}
+
+TEST(TakenEntryTexts, InTheMatrixFormTheTableShowsTheCoefficients) {
+    Workbench wb;
+    setList(wb, {quarterTurn()});
+    ASSERT_TRUE(TakeListEntry(wb, 1));
+    EXPECT_EQ(rowText(wb, 0), (Texts{"0.000", "-0.500", "0.500", "0.000", "0.250", "0.000", "1.000"}));
+    EXPECT_EQ(rowOldText(wb, 0), rowText(wb, 0));
+}
+
+TEST(TakenEntryTexts, WithDZeroAndBNegativePhiIsMinus90RightAfterTakingTheEntry) {
+    Workbench wb;
+    wb.CodeForm = 1;
+    setList(wb, {quarterTurn()});
+    ASSERT_TRUE(TakeListEntry(wb, 1));
+    EXPECT_EQ(rowText(wb, 0), (Texts{"0.500", "0.500", "90.00", "-90.00", "0.250", "0.000", "1.000"}));
+    EXPECT_EQ(rowOldText(wb, 0), rowText(wb, 0));
+    // The table's own rule, used at the next edit of the row, gives 90.
+    EXPECT_EQ(RowTexts(wb, 0)[3], "90.00");
+}
+
+TEST(TakenEntryTexts, WithDZeroAndBPositivePhiIs90RightAfterTakingTheEntry) {
+    Workbench wb;
+    wb.CodeForm = 1;
+    IFSEntry e = quarterTurn();
+    e.b[0] = 0.5f;
+    setList(wb, {e});
+    ASSERT_TRUE(TakeListEntry(wb, 1));
+    EXPECT_EQ(wb.Table.text(4, 0), "90.00");
+    EXPECT_EQ(RowTexts(wb, 0)[3], "-90.00");
+}
+
+TEST(TakenEntryTexts, RAndSAreRoundedToFourDecimalsBeforeTheyAreShown) {
+    Workbench wb;
+    wb.CodeForm = 1;
+    IFSEntry e = numberedEntry("Thin", 1);
+    e.a[0] = 0.0004999f;
+    e.c[0] = 0;
+    e.b[0] = 0;
+    e.d[0] = 0.0004999f;
+    setList(wb, {e});
+    ASSERT_TRUE(TakeListEntry(wb, 1));
+    EXPECT_EQ(wb.Table.text(1, 0), "0.001");
+    EXPECT_EQ(wb.Table.text(2, 0), "0.001");
+    EXPECT_EQ(RowTexts(wb, 0)[0], "0.000");
+    EXPECT_EQ(wb.Table.text(4, 0), "0.00");  // d is not 0: phi by the usual rule
+}
+
+TEST(TakenEntryTexts, EveryRowIsWrittenAndTheFirstCommentIsShown) {
+    Workbench wb;
+    IFSEntry e = numberedEntry("Three", 3);
+    e.nComments = 2;
+    e.Comment[1] = "the first line   ";
+    e.Comment[2] = "; the second";
+    setList(wb, {e, numberedEntry("Plain", 1)});
+    ASSERT_TRUE(TakeListEntry(wb, 1));
+    EXPECT_EQ(wb.lblComment, "the first line");
+    EXPECT_EQ(wb.Table.text(5, 2), "2.000");
+    EXPECT_EQ(wb.Table.text(6, 2), "-2.000");
+    ASSERT_TRUE(TakeListEntry(wb, 2));
+    EXPECT_EQ(wb.lblComment, "");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace quillane {
 namespace {
 
@@ -26,6 +28,12 @@ TEST(Val, StopsAtTheFirstOtherCharacter) {
     EXPECT_DOUBLE_EQ(Val("1.2.3"), 1.2);
     EXPECT_DOUBLE_EQ(Val("7,5"), 7.0);
     EXPECT_DOUBLE_EQ(Val("2e"), 2.0);
+}
+
+TEST(Val, HugeAndTinyExponents) {
+    EXPECT_EQ(Val("1e-400"), 0.0);
+    EXPECT_EQ(Val("-1e999"), -std::numeric_limits<double>::max());
+    EXPECT_EQ(Val("1e999"), std::numeric_limits<double>::max());
 }
 
 TEST(Val, TextWithoutANumberIsZero) {

@@ -157,7 +157,7 @@ TEST_F(FrameTest, TicksAndVisibilityFollowTheTable) {
 
 TEST_F(FrameTest, CommandsNotBuiltYetAreVisibleButDisabled) {
     open();
-    for (const char* key : {"mnuDrawType(1)", "mnuOpen", "mnuSaveIFS", "mnuHelpWeb", "mnuWin(2)"}) {
+    for (const char* key : {"mnuDrawType(1)", "mnuFilePrint", "mnuEditPaste", "mnuHelpWeb", "mnuWin(2)"}) {
         EXPECT_TRUE(item(key)->isVisible()) << key;
         EXPECT_FALSE(item(key)->isEnabled()) << key;
     }
@@ -192,21 +192,19 @@ TEST_F(FrameTest, TheTableDecidesTheTickAfterAClick) {
 }
 
 TEST_F(FrameTest, AnArrayCommandServesEveryIndex) {
-    dir.write("default.ifs", GoodBlock + OtherBlock);
     open();
-    EXPECT_FALSE(item("mnuNames(1)")->isEnabled());
+    EXPECT_FALSE(item("mnuDesignExample(1)")->isEnabled());
     std::vector<int> taken;
-    frame->setArrayCommand("mnuNames", [&](int index) { taken.push_back(index); });
-    ASSERT_TRUE(item(EntryKey(2))->isEnabled());
-    ASSERT_TRUE(item("mnuNames(1)")->isEnabled());
-    item(EntryKey(2))->trigger();
-    item("mnuNames(1)")->trigger();
+    frame->setArrayCommand("mnuDesignExample", [&](int index) { taken.push_back(index); });
+    ASSERT_TRUE(item("mnuDesignExample(1)")->isEnabled());
+    item("mnuDesignExample(6)")->trigger();
+    item("mnuDesignExample(1)")->trigger();
     EXPECT_EQ(taken, (std::vector<int>{6, 1}));
-    // From a first index on only: the items above it stay disabled.
+    // From a first index on only: the items before it stay disabled.
     frame->setArrayCommand(
-        "mnuNames", [&](int index) { taken.push_back(index); }, 5);
-    EXPECT_FALSE(item("mnuNames(1)")->isEnabled());
-    EXPECT_TRUE(item(EntryKey(1))->isEnabled());
+        "mnuDesignExample", [&](int index) { taken.push_back(index); }, 5);
+    EXPECT_FALSE(item("mnuDesignExample(1)")->isEnabled());
+    EXPECT_TRUE(item("mnuDesignExample(6)")->isEnabled());
 }
 
 TEST_F(FrameTest, TheFractalsMenuFollowsTheList) {

@@ -1,0 +1,60 @@
+#include "shell/code_commands.h"
+
+#include <QFontMetrics>
+#include <QLabel>
+
+#include "core/comment_commands.h"
+#include "core/file_commands.h"
+#include "core/function_forms.h"
+#include "core/list_commands.h"
+#include "render/list_entry_commands.h"
+#include "render/table_commands.h"
+#include "shell/functions_window.h"
+#include "shell/main_window.h"
+
+namespace quillane {
+
+void RegisterCodeCommands(MainWindow& frame) {
+    AppState& s = frame.state();
+    Host& host = frame.host();
+    frame.setCommand("mnuMatrix", [&s] { mnuMatrix_Click(s.wb); });
+    frame.setCommand("mnuCodeMatrixFormat", [&s, &host] { mnuCodeMatrixFormat_Click(s.wb, host); });
+    frame.setCommand("mnuRotation", [&s] { mnuRotation_Click(s.wb); });
+    frame.setCommand("mnuCodeFP", [&s] { mnuCodeFP_Click(s.wb); });
+    frame.setCommand("mnuProb", [&s, &host] { mnuProb_Click(s.wb, host); });
+    frame.setCommand("mnuProbCalc", [&s, &host] { mnuProbCalc_Click(s.wb, host); });
+    frame.setCommand("mnuCodeArrangeFP", [&s] { mnuCodeArrangeFP_Click(s.wb); });
+    frame.setCommand("mnuCodeRename",
+                     [&frame, &s] { mnuCodeRename_Click(s.wb, frame.dialogs().frmIFSName); });
+    frame.setCommand("mnuCodeComment", [&frame, &s] {
+        QLabel* label = frame.functionsWindow()->findChild<QLabel*>("lblComment");
+        const QFontMetrics metrics(label->font());
+        const TextWidth width = [metrics](const std::string& t) {
+            return static_cast<double>(metrics.horizontalAdvance(QString::fromStdString(t)));
+        };
+        const double labelWidth = std::max(label->width(), 300);
+        mnuCodeComment_Click(s.wb, frame.dialogs().frmAddComment, width, labelWidth);
+    });
+}
+
+void RegisterListAndFileCommands(MainWindow& frame) {
+    AppState& s = frame.state();
+    Host& host = frame.host();
+    // The entries take the IFS (with its view); the items above the separator edit the list.
+    frame.setArrayCommand("mnuNames", [&frame, &s, &host](int index) {
+        if (index >= 5)
+            mnuNamesEntry_Click(s.wb, s.pics, host, index);
+        else if (index != 4)
+            mnuNames_Click(s.wb, host, frame.dialogs().list, index);
+    });
+    frame.setCommand("mnuNewIFS", [&s, &host] { mnuNewIFS_Click(s.wb, s.pics, host); });
+    frame.setCommand("mnuOpen", [&s, &host] {
+        if (mnuOpen_Click(s.wb, host)) ShowTakenIFS(s.wb, s.pics, host);
+    });
+    frame.setCommand("mnuFileAppend", [&s, &host] { mnuFileAppend_Click(s.wb, host); });
+    frame.setCommand("mnuSaveIFS", [&s, &host] { mnuSaveIFS_Click(s.wb, host); });
+    frame.setCommand("mnuSaveIFSas", [&s, &host] { mnuSaveIFSas_Click(s.wb, host); });
+    frame.setCommand("mnuSaveCurrent", [&s, &host] { mnuSaveCurrent_Click(s.wb, host); });
+}
+
+}  // namespace quillane
