@@ -35,6 +35,12 @@ class FunctionsWindow : public QWidget {
     QLineEdit* txtWin(int k) const { return txtWin_[static_cast<size_t>(k)]; }
     QLineEdit* txtDesign(int k) const { return txtDesign_[static_cast<size_t>(k)]; }
 
+    // The program is closing: focus changes no longer commit anything.
+    void detach() {
+        detached_ = true;
+        afterEdit = nullptr;
+    }
+
     // Gives a row box the focus with its text selected.
     void selectBox(int column, int row);
 
@@ -83,6 +89,7 @@ class FunctionsWindow : public QWidget {
     Host& host_;
     std::map<QObject*, BoxId> ids_;
     bool committing_ = false;
+    bool detached_ = false;
     QLineEdit* txtMaps_ = nullptr;
     QLabel* lblComment_ = nullptr;
     QLabel* lblProbSum_ = nullptr;

@@ -72,7 +72,7 @@ bool FunctionsWindow::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     auto* box = qobject_cast<QLineEdit*>(watched);
-    if (!box || !ids_.count(watched)) return QWidget::eventFilter(watched, event);
+    if (detached_ || !box || !ids_.count(watched)) return QWidget::eventFilter(watched, event);
     const BoxId id = idOf(watched);
     switch (event->type()) {
         case QEvent::KeyPress: {

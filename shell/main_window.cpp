@@ -85,6 +85,7 @@ MainWindow::~MainWindow() {
     state_.wb.Menu.observer = nullptr;
     if (ownHost_) ownHost_->onYield = nullptr;
     // The child windows hold the state and the host: they go first.
+    if (functions_) functions_->detach();
     delete mdi_;
     mdi_ = nullptr;
 }
