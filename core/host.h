@@ -24,6 +24,8 @@ struct FileDialogRequest {
     std::string initialName;  // preset file name (save dialogs)
     // Dialogs that share a key share the remembered folder.
     std::string folderKey;
+    // When set, receives the filter the person chose, counted from 1.
+    int* chosenFilter = nullptr;
 };
 
 class Host {

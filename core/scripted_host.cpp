@@ -16,6 +16,10 @@ Answer ScriptedHost::message(MessageIcon icon, const std::string& title, const s
 
 std::optional<std::string> ScriptedHost::nextFileName(const FileDialogRequest& request) {
     dialogs_.push_back(request);
+    if (request.chosenFilter) {
+        *request.chosenFilter = filters.empty() ? 1 : filters.front();
+        if (!filters.empty()) filters.pop_front();
+    }
     if (fileNames.empty()) return std::nullopt;
     auto name = fileNames.front();
     fileNames.pop_front();

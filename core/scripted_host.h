@@ -23,6 +23,8 @@ class ScriptedHost : public Host {
     // Names for the next file dialogs; an empty optional stands for Cancel.
     std::deque<std::optional<std::string>> fileNames;
     std::deque<std::optional<Color>> colors;
+    // The filters chosen in the next file dialogs that ask for one (1 when empty).
+    std::deque<int> filters;
     // Runs at every yield, so a test can act "during" a loop.
     std::function<void(int yieldNumber)> onYield;
 

@@ -1,11 +1,15 @@
 #include "shell/fractal_commands.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QScreen>
 
 #include "render/fractal_view.h"
 #include "render/list_entry_commands.h"
+#include "render/picture_commands.h"
 #include "render/table_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/frame_toolbar.h"
@@ -106,11 +110,32 @@ void registerView(MainWindow& frame) {
     });
 }
 
+// The picture of the fractal window to the clipboard and to files.
+void registerPictures(MainWindow& frame) {
+    AppState& s = frame.state();
+    Host& host = frame.host();
+    auto copy = [&s] {
+        const RasterSurface& p = s.pics.picfractal;
+        if (p.width() == 0) return;
+        const QImage image(reinterpret_cast<const uchar*>(p.data()), p.width(), p.height(), p.width() * 4,
+                           QImage::Format_RGBX8888);
+        QGuiApplication::clipboard()->setImage(image.convertToFormat(QImage::Format_RGB32));
+    };
+    frame.setCommand("mnuEditCopy", copy);
+    frame.setCommand("mnuPopupCopy", copy);
+    frame.setCommand("mnuSaveFractal",
+                     [&s, &host] { SavePictureCommand(s.pics.picfractal, host, SaveFractalTitle); });
+    frame.setCommand("mnuPopupSave",
+                     [&s, &host] { SavePictureCommand(s.pics.picfractal, host, SaveImageTitle); });
+    frame.setCommand("mnuPopUpClear", [] {});
+}
+
 }  // namespace
 
 void RegisterFractalCommands(MainWindow& frame) {
     registerDrawing(frame);
     registerView(frame);
+    registerPictures(frame);
     if (FractalWindow* fractal = frame.fractalWindow()) {
         fractal->runCommand = [&frame](const std::string& key) { frame.runCommand(key); };
         fractal->afterCommand = [&frame] { frame.refreshWindows(); };

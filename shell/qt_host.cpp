@@ -94,6 +94,10 @@ std::optional<std::string> QtHost::fileDialog(const FileDialogRequest& request, 
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QString chosen = dialog.selectedFiles().constFirst();
     rememberFolder(request.folderKey, chosen);
+    if (request.chosenFilter) {
+        const int index = static_cast<int>(nameFilters(request.filters).indexOf(dialog.selectedNameFilter()));
+        *request.chosenFilter = index < 0 ? 1 : index + 1;
+    }
     return chosen.toStdString();
 }
 

@@ -176,3 +176,38 @@ TEST_F(FractalWindowTest, TheFunctionTableShowsTheRowsSwatchesAndWindow) {
 
 }  // namespace
 }  // namespace quillane::testing
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace quillane::testing {
+namespace {
+
+TEST_F(FractalWindowTest, CopyPutsThePictureOnTheClipboard) {
+    drawPoints(5000);
+    item("mnuEditCopy")->trigger();
+    const QImage image = QGuiApplication::clipboard()->image();
+    const RasterSurface& p = frame->state().pics.picfractal;
+    ASSERT_EQ(image.width(), p.width());
+    ASSERT_EQ(image.height(), p.height());
+    int differ = 0;
+    for (int r = 0; r < p.height(); ++r)
+        for (int c = 0; c < p.width(); ++c) {
+            const QRgb q = image.pixel(c, r);
+            differ += RGB(qRed(q), qGreen(q), qBlue(q)) != p.pixel(c, r);
+        }
+    EXPECT_EQ(differ, 0);
+    EXPECT_GT(paintedPixels(), 50);
+}
+
+TEST_F(FractalWindowTest, SaveFractalPictureWritesTheChosenFormat) {
+    drawPoints(2000);
+    host.fileNames.push_back(dir.path("shot"));
+    host.filters.push_back(2);
+    item("mnuSaveFractal")->trigger();
+    EXPECT_TRUE(std::filesystem::exists(dir.path("shot.png")));
+    EXPECT_TRUE(host.shown().empty());
+}
+
+}  // namespace
+}  // namespace quillane::testing

@@ -1,0 +1,29 @@
+#pragma once
+// Saving the fractal picture to a file.
+#include <string>
+
+#include "core/host.h"
+#include "core/workbench.h"
+#include "render/raster_surface.h"
+
+namespace quillane {
+
+inline constexpr const char* SaveFractalTitle = "Save Fractal Image";
+inline constexpr const char* SaveImageTitle = "Save Image";
+inline constexpr const char* ImageSaveFailedMessage = "Image save failed";
+
+// The four filters of the picture save dialog, in their order.
+std::vector<FileFilter> PictureSaveFilters();
+// The file name for filter 1 to 4: ".gif", ".png", ".jpg" or ".bmp" added unless the name ends with it
+// (the last four characters compared in lower case).
+std::string PictureFileNameFor(const std::string& name, int filterIndex);
+// Writes a picture for filter 1 to 4; bitmaps by our own writer, the others through the library.
+bool SavePictureAs(const RasterSurface& picture, const std::string& path, int filterIndex,
+                   std::string& error);
+
+// mnuSaveFractal (title "Save Fractal Image") and mnuPopupSave (title "Save Image") for a picture:
+// asks for a name, adds the extension, writes; "Image save failed" when the write fails.
+// Returns whether a file was written.
+bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title);
+
+}  // namespace quillane
