@@ -24,6 +24,14 @@ const char* const UsageText =
     "      on white: N points after the warm-up (default 100000), a square picture of\n"
     "      PIXELS (default 800), in the window found from the attractor unless given.\n"
     "      OUT is a PNG or BMP picture, by its extension. Prints the drawing speed.\n"
+    "  render FILE --deterministic [--levels N]\n"
+    "         [--figure polygon|line|triangle|square|circle] [--entry N] [--size PIXELS]\n"
+    "         [--window XMIN,XMAX,YMIN,YMAX] -o OUT\n"
+    "      Draws N levels (default 5, at most 100) of the deterministic algorithm in the\n"
+    "      IFS colours, starting from a figure drawn in black: the unit square outline\n"
+    "      (polygon, the default), the segment (0,0)-(1,0), the filled triangle (0,0),\n"
+    "      (1,0), (0.5,1), the filled unit square or the filled circle of radius 0.5\n"
+    "      about (0.5,0.5). The window is the attractor's, widened to hold the figure.\n"
     "  --bench [--points N] [--size PIXELS]\n"
     "      Measures the random drawing engine with 3 and 100 maps.\n"
     "  --help\n"
@@ -68,6 +76,7 @@ ParseResult parseRender(const std::vector<std::string>& args) {
     Command cmd;
     cmd.kind = Command::Render;
     RenderOptions& r = cmd.render;
+    bool levelsGiven = false;  // --levels or --figure
     for (size_t i = 1; i < args.size(); ++i) {
         const std::string& a = args[i];
         auto value = [&](std::string& out) {
@@ -96,6 +105,18 @@ ParseResult parseRender(const std::vector<std::string>& args) {
             if (!value(v) || !parseWindow(v, w))
                 return usage("--window needs XMIN,XMAX,YMIN,YMAX with XMIN < XMAX and YMIN < YMAX");
             r.window = w;
+        } else if (a == "--deterministic") {
+            r.deterministic = true;
+        } else if (a == "--levels") {
+            if (!value(v) || !parseInt(v, 0, 100, n)) return usage("--levels needs a number from 0 to 100");
+            r.levels = static_cast<int>(n);
+            levelsGiven = true;
+        } else if (a == "--figure") {
+            if (!value(v) ||
+                (v != "polygon" && v != "line" && v != "triangle" && v != "square" && v != "circle"))
+                return usage("--figure needs polygon, line, triangle, square or circle");
+            r.figure = v;
+            levelsGiven = true;
         } else if (a == "-o") {
             if (!value(r.output)) return usage("-o needs a file name");
         } else if (!a.empty() && a[0] == '-') {
@@ -107,6 +128,7 @@ ParseResult parseRender(const std::vector<std::string>& args) {
         }
     }
     if (r.file.empty()) return usage("render needs a FILE");
+    if (levelsGiven && !r.deterministic) return usage("--levels and --figure need --deterministic");
     if (r.output.empty()) return usage("render needs -o OUT");
     std::string ext = r.output.size() >= 4 ? r.output.substr(r.output.size() - 4) : "";
     for (char& ch : ext) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));

@@ -16,6 +16,10 @@ struct RenderOptions {
     std::optional<uint64_t> seed;
     std::optional<WorldWindow> window;
     std::string output;
+    // --deterministic: that many levels from a drawn figure instead of the random algorithm.
+    bool deterministic = false;
+    int levels = 5;
+    std::string figure = "polygon";  // polygon, line, triangle, square or circle
 };
 
 struct BenchOptions {

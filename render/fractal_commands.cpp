@@ -1,6 +1,7 @@
 // The drawing commands of the fractal window and its keys.
 #include <string>
 
+#include "render/deterministic.h"
 #include "render/fractal_view.h"
 #include "render/play_game.h"
 
@@ -28,7 +29,11 @@ void deleteKey(Workbench& wb, FractalPictures& pics, int shiftMask) {
 void mnuRun_Click(Workbench& wb, FractalPictures& pics, Host& host) {
     if (wb.DrawingActive) return;
     host.yield();
-    if (!wb.RandomMode) return;  // deterministic drawing arrives with its own module
+    if (!wb.RandomMode) {
+        wb.FractalCaption = DeterministicCaption;
+        Iterate(wb, pics, host, -1);
+        return;
+    }
     wb.FractalCaption = "Fractal (Random)";
     PlayGame(wb, pics, host, 0, 0);
 }
@@ -44,20 +49,31 @@ void mnuClear_Click(Workbench& wb, FractalPictures& pics) {
 }
 
 void DrawFixedNumber(Workbench& wb, FractalPictures& pics, Host& host, int32_t count) {
+    // The count is remembered per drawing type.
+    if (!wb.RandomMode) {
+        pics.Det.LastLevels = count < 0 ? -count : count;
+        host.yield();
+        IterateLevels(wb, pics, host, pics.Det.LastLevels);
+        return;
+    }
     pics.LastFixedCount = count;
     host.yield();
-    if (!wb.RandomMode) return;  // deterministic drawing arrives with its own module
     PlayGame(wb, pics, host, 0, count);
 }
 
 bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
+    if (shiftMask == (ShiftMaskCtrl | ShiftMaskShift)) pics.Det.KeepFirstColor = true;
     switch (keyCode) {
         case KeyQ:
             wb.DrawingActive = false;
+            pics.Det.IterationAbort = true;
             return true;
         case KeyD:
             if (shiftMask != CtrlAlt) return false;
-            if (wb.RandomMode) PlayGame(wb, pics, host, 0, pics.LastFixedCount);
+            if (wb.RandomMode)
+                PlayGame(wb, pics, host, 0, pics.LastFixedCount);
+            else
+                IterateLevels(wb, pics, host, pics.Det.LastLevels);
             return true;
         case KeyPageUp:
             if (pics.Selection.SelectionActive)
@@ -83,7 +99,7 @@ bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCod
             deleteKey(wb, pics, shiftMask);
             return true;
         default:
-            return false;
+            return DeterministicDigitKey(wb, pics, host, keyCode, shiftMask);
     }
 }
 

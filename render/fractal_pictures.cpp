@@ -1,6 +1,7 @@
 #include "render/fractal_pictures.h"
 
 #include "core/numbers.h"
+#include "render/deterministic.h"
 #include "render/scale.h"
 
 namespace quillane {
@@ -62,7 +63,10 @@ void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
     pics.picCount.clear();
     pics.Selection.SelectionActive = false;
     wb.Menu.setCaption("mnuZoom", ZoomInCaption);
-    if (!wb.RandomMode) return;  // the deterministic level 0 arrives with its own module
+    if (!wb.RandomMode) {
+        ClearImageDeterministicBranch(wb, pics);
+        return;
+    }
     if (!KeepPicture) pics.PictureOverlaid = false;
 }
 

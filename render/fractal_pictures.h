@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/workbench.h"
+#include "render/deterministic_state.h"
 #include "render/raster_surface.h"
 
 namespace quillane {
@@ -43,6 +44,7 @@ struct FractalPictures {
     std::string picCoord;
 
     FractalSelection Selection;
+    DeterministicState Det;
     // View state of the window.
     int32_t SavedPointCount = 0;  // PointCount before the last view change, for Undo Zoom
     bool LastChangeWasZoom = false;

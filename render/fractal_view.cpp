@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/numbers.h"
+#include "render/deterministic.h"
 #include "render/play_game.h"
 #include "render/scale.h"
 
@@ -119,6 +120,31 @@ void restoreUndonePicture(Workbench& wb, FractalPictures& pics, const RasterSurf
     showCountOf(wb, pics);
 }
 
+// A placed picture under a drawn figure cannot follow a shift, so the shift is refused then.
+void shiftDeterministic(Workbench& wb, FractalPictures& pics, Host& host, int KeyCode) {
+    if (pics.PictureOverlaid && wb.DetFigure < 7) return;
+    pics.Selection.SelectionActive = false;
+    wb.Menu.setCaption("mnuZoom", ZoomInCaption);
+    pics.SavedPointCount = wb.PointCount;
+    ResetUndoMenu(wb);
+    wb.UndoWindow = wb.Window;
+    pics.picImage3.takeImage(pics.picImage4);
+    pics.picImage3.setScale(pics.picImage4.scaleLeft(), pics.picImage4.scaleTop(),
+                            pics.picImage4.scaleRight(), pics.picImage4.scaleBottom());
+    const RasterSurface level = pics.picImage;
+    showWindow(wb, pics, shifted(wb.UndoWindow, KeyCode));
+    pics.LastChangeWasZoom = false;
+    slideInto(pics.picfractal, pics.picImageShift);
+    pics.picImage2.takeImage(pics.picfractal);
+    if (wb.menu("mnuDrawOverlay").checked) {
+        slideInto(pics.picImage3, level);
+        pics.picImage.takeImage(pics.picImage3);
+    } else {
+        pics.picImage3.takeImage(pics.picImage2);
+    }
+    host.yield();
+}
+
 }  // namespace
 
 void ResetUndoMenu(Workbench& wb) {
@@ -136,8 +162,10 @@ void ZoomOut(Workbench& wb, FractalPictures& pics, Host& host, int Percent, bool
     const RasterSurface before = pics.picImage2;
     showWindow(wb, pics, Percent == -1 ? restoredWindow(wb, host) : grown(wb.Window, Percent));
     pics.LastChangeWasZoom = true;
-    // The deterministic redraw arrives with the deterministic drawing's own module.
-    if (wb.RandomMode) redrawRandomZoom(wb, pics, host, before, Percent != -1 && wb.DrawingStarted);
+    if (wb.RandomMode)
+        redrawRandomZoom(wb, pics, host, before, Percent != -1 && wb.DrawingStarted);
+    else
+        RedrawDeterministicView(wb, pics, host);
     if (PushUndo) offerZoomUndo(wb);
 }
 
@@ -161,7 +189,10 @@ void ZoomIn(Workbench& wb, FractalPictures& pics, Host& host) {
     showWindow(wb, pics, w);
     offerZoomUndo(wb);
     pics.LastChangeWasZoom = true;
-    if (!wb.RandomMode) return;  // deterministic drawing arrives with its own module
+    if (!wb.RandomMode) {
+        RedrawDeterministicView(wb, pics, host);
+        return;
+    }
     pics.picImage2.takeImage(before);
     PlayGame(wb, pics, host, 1, 0);
 }
@@ -175,7 +206,10 @@ void mnuZoom_Click(Workbench& wb, FractalPictures& pics, Host& host) {
 void ShiftDrawWin(Workbench& wb, FractalPictures& pics, Host& host, int KeyCode) {
     if (refusedAsFrozen(wb, host)) return;
     if (KeyCode < KeyLeft || KeyCode > KeyDown) return;
-    if (!wb.RandomMode) return;  // deterministic drawing arrives with its own module
+    if (!wb.RandomMode) {
+        shiftDeterministic(wb, pics, host, KeyCode);
+        return;
+    }
     pics.Selection.SelectionActive = false;
     wb.Menu.setCaption("mnuZoom", ZoomInCaption);
     pics.SavedPointCount = wb.PointCount;
@@ -211,7 +245,10 @@ void UndoZoom(Workbench& wb, FractalPictures& pics, Host& /*host*/) {
 void mnuCalcScale_Click(Workbench& wb, FractalPictures& pics, Host& host) {
     if (wb.DrawingActive) return;
     wb.DrawingStarted = false;
-    if (!wb.RandomMode) return;  // deterministic drawing arrives with its own module
+    if (!wb.RandomMode) {
+        CalcScaleDeterministic(wb, pics, host);
+        return;
+    }
     setscale(wb, host, true, &pics);
 }
 

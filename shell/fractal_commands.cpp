@@ -68,7 +68,6 @@ void registerDrawing(MainWindow& frame) {
         showFractalWindow(frame);
         DrawFixedNumber(s.wb, s.pics, host, dialog.result());
     });
-    frame.setCommand("mnuDrawType(0)", [] {});  // Random is the drawing type in use
 }
 
 void registerView(MainWindow& frame) {

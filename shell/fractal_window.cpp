@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "render/deterministic.h"
 #include "render/fractal_view.h"
 #include "shell/picture_widget.h"
 
@@ -160,6 +161,11 @@ void FractalWindow::refresh() {
     play_->setText(running ? "Stop" : "Draw");
     play_->setIcon(style()->standardIcon(running ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
     picCount_->setText(QString::fromStdString(state_.pics.picCount));
+    // A deterministic level shows its progress in place of the coordinates.
+    const DeterministicState& det = state_.pics.Det;
+    pgrIterate_->setVisible(det.pgrIterateVisible);
+    pgrIterate_->setValue(det.pgrIterate);
+    picCoord_->setVisible(det.picCoordVisible && !det.pgrIterateVisible);
     picCoord_->setText(QString::fromStdString(state_.pics.picCoord));
     if (picfractal_->surface() != &state_.pics.picfractal ||
         picfractal_->size() != QSize(state_.pics.picfractal.width(), state_.pics.picfractal.height()))
@@ -200,6 +206,11 @@ void FractalWindow::keyPressEvent(QKeyEvent* event) {
                                         modifierMask(event->modifiers()));
     changed();
     if (!handled) event->ignore();
+}
+
+void FractalWindow::keyReleaseEvent(QKeyEvent* event) {
+    FractalKeyUp(state_.wb, state_.pics);
+    QWidget::keyReleaseEvent(event);
 }
 
 void FractalWindow::onMouseMoved(QPointF world) {

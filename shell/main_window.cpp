@@ -10,6 +10,7 @@
 #include "core/menu_tree.h"
 #include "render/scale.h"
 #include "shell/code_commands.h"
+#include "shell/figure_commands.h"
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/functions_window.h"
@@ -71,6 +72,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterFractalCommands(*this);
     RegisterCodeCommands(*this);
     RegisterListAndFileCommands(*this);
+    RegisterFigureCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);

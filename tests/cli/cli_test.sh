@@ -65,5 +65,19 @@ printf 'grow {\n2 0 0 2 1 1 1\n}\n' >"$work/grow.ifs"
 check "expanding IFS exits 1" status 1 "$cli" render "$work/grow.ifs" --window 0,1,0,1 -o "$work/g.png"
 check "overflow message" grep -q "Overflow error." "$work/err"
 
+check "deterministic render" status 0 "$cli" render "$data/default.ifs" --deterministic --levels 4 --figure triangle --size 64 --window 0,1,0,1 -o "$work/d.png"
+check "deterministic render reports its levels" grep -Eq "^4 levels of 64x64 in [0-9.]+ s$" "$work/err"
+check "deterministic PNG signature" test "$(head -c 4 "$work/d.png" | od -An -c | tr -d ' ')" = "211PNG"
+"$cli" render "$data/default.ifs" --deterministic --levels 4 --figure triangle --size 64 --window 0,1,0,1 -o "$work/e.png" 2>/dev/null
+check "deterministic picture repeats" cmp -s "$work/d.png" "$work/e.png"
+"$cli" render "$data/default.ifs" --deterministic --levels 4 --figure circle --size 64 --window 0,1,0,1 -o "$work/f.png" 2>/dev/null
+check "another figure gives another picture" test -n "$(cmp "$work/d.png" "$work/f.png" 2>&1)"
+for fig in polygon line square; do
+    check "deterministic figure $fig" status 0 "$cli" render "$data/default.ifs" --deterministic --figure "$fig" --levels 2 --size 48 -o "$work/$fig.bmp"
+done
+check "levels without --deterministic is bad usage" status 2 "$cli" render "$data/default.ifs" --levels 3 -o "$work/x.png"
+check "unknown figure is bad usage" status 2 "$cli" render "$data/default.ifs" --deterministic --figure hexagon -o "$work/x.png"
+check "too many levels is bad usage" status 2 "$cli" render "$data/default.ifs" --deterministic --levels 101 -o "$work/x.png"
+
 echo "$failures failure(s)"
 [ "$failures" -eq 0 ]

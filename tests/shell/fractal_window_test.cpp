@@ -178,7 +178,9 @@ TEST_F(FractalWindowTest, TheFunctionTableShowsTheRowsSwatchesAndWindow) {
 }  // namespace quillane::testing
 
 #include <QClipboard>
+#include <QDialog>
 #include <QGuiApplication>
+#include <QTimer>
 
 namespace quillane::testing {
 namespace {
@@ -207,6 +209,45 @@ TEST_F(FractalWindowTest, SaveFractalPictureWritesTheChosenFormat) {
     item("mnuSaveFractal")->trigger();
     EXPECT_TRUE(std::filesystem::exists(dir.path("shot.png")));
     EXPECT_TRUE(host.shown().empty());
+}
+
+}  // namespace
+}  // namespace quillane::testing
+
+namespace quillane::testing {
+namespace {
+
+TEST_F(FractalWindowTest, DeterministicLevelsFromAFilledTriangleKeepHalfAPerLevel) {
+    item("mnuDrawType(1)")->trigger();
+    EXPECT_EQ(fractal().windowTitle().toStdString(), "Fractal (Deterministic)");
+    EXPECT_TRUE(item("mnuDrawAddFigure(3)")->isEnabled());
+    // A filled triangle as the initial set, through its dialog's defaults.
+    int dialogs = 0;
+    QTimer::singleShot(0, [&] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == "frmTriangle" && w->isVisible()) {
+                ++dialogs;
+                static_cast<QDialog*>(w)->accept();
+            }
+    });
+    item("mnuDrawAddFigure(3)")->trigger();
+    EXPECT_EQ(dialogs, 1);
+    EXPECT_EQ(wb().DetFigure, 3);
+    const int start = paintedPixels();
+    ASSERT_GT(start, 100);
+    frame->runCommand("mnuRun");
+    frame->runCommand("mnuRun");
+    EXPECT_EQ(wb().IterationNumber, 2);
+    // Two half-size maps keep about half of the pixels per level: a quarter after two levels.
+    const int two = paintedPixels();
+    EXPECT_GT(two, start / 5);
+    EXPECT_LT(two, start * 32 / 100);
+    // The middle of the triangle (width 1 from the origin) is empty after a level.
+    const RasterSurface& p = frame->state().pics.picfractal;
+    EXPECT_EQ(p.point(0.5, 0.25), White);
+    EXPECT_NE(p.point(0.05, 0.02), White);
+    item("mnuDrawType(0)")->trigger();
+    EXPECT_EQ(fractal().windowTitle().toStdString(), "Fractal (Random)");
 }
 
 }  // namespace

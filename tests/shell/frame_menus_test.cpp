@@ -157,7 +157,8 @@ TEST_F(FrameTest, TicksAndVisibilityFollowTheTable) {
 
 TEST_F(FrameTest, CommandsNotBuiltYetAreVisibleButDisabled) {
     open();
-    for (const char* key : {"mnuDrawType(1)", "mnuFilePrint", "mnuEditPaste", "mnuHelpWeb", "mnuWin(2)"}) {
+    for (const char* key :
+         {"mnuDrawAddFigure(7)", "mnuFilePrint", "mnuEditPaste", "mnuHelpWeb", "mnuWin(2)"}) {
         EXPECT_TRUE(item(key)->isVisible()) << key;
         EXPECT_FALSE(item(key)->isEnabled()) << key;
     }

@@ -1,0 +1,57 @@
+#pragma once
+// What the deterministic drawing keeps between levels and between commands. Part of the fractal
+// window's pictures, so a test that makes fresh pictures starts from a fresh state.
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "core/colors.h"
+#include "core/workbench.h"
+
+namespace quillane {
+
+class Host;
+struct FractalPictures;
+
+// Draws initial figure `Figure` (0..8) into picfractal and picImage3; with ShowDialog it asks first.
+// Returns false when the person cancelled; nothing has changed then.
+using DetFigureDrawer = std::function<bool(Workbench& wb, FractalPictures& pics, Host& host, int Figure,
+                                           bool ShowDialog, bool ResetWindow)>;
+// The colour of a gradient mode (1..4, 7) at a colouring position in world units.
+using DetGradientColor = std::function<Color(int mode, float x, float y)>;
+
+struct DeterministicState {
+    bool IterationAbort = false;
+    bool KeepFirstColor = false;
+    Color DetSingleColor = Black;
+    // The selected optColoring button (1..7), read when mnuColors(1) is checked.
+    int optColoring = 1;
+    // The colour item that was checked when Deterministic took over; Random puts it back.
+    int SavedColorItem = 0;
+    int SavedOptColoring = 1;
+
+    // pgrIterate: shown in place of picCoord during a level, its value a whole percentage.
+    bool pgrIterateVisible = false;
+    int pgrIterate = 0;
+    bool picCoordVisible = true;
+    bool picTraceVisible = false;
+    std::string picTrace;
+    // The suffix of the level number after a recursive drawing (" w/Rec").
+    std::string CountSuffix;
+
+    // The window of the last deterministic figure, to return to on a change to Deterministic.
+    WorldWindow DetWindow;
+    bool DetWindowStored = false;
+    // "Draw This Many..." in Deterministic mode: the levels asked for last.
+    int32_t LastLevels = 5;
+    // The digit keys: a tens digit typed with Shift, waiting for its second digit.
+    bool DigitPending = false;
+    int TensDigit = 0;
+
+    // Filled in by the figures and the gradients; without them a figure is an empty picture and a
+    // gradient mode colours in DetSingleColor.
+    DetFigureDrawer FigureDrawer;
+    DetGradientColor GradientColor;
+};
+
+}  // namespace quillane

@@ -1,0 +1,83 @@
+#include "shell/figure_commands.h"
+
+#include <memory>
+
+#include "core/initial_polygons.h"
+#include "render/deterministic.h"
+#include "render/initial_figures.h"
+#include "render/scale.h"
+#include "shell/figure_dialogs.h"
+#include "shell/main_window.h"
+
+namespace quillane {
+
+namespace {
+
+// What the figures remember between commands. The design window's polygon arrives with that window;
+// until then the figures of the design polygon use the oriented unit square.
+struct FigureMemory {
+    InitialFigures figs;
+    DesignPolygon polygon = BuiltInPolygon(0);
+};
+
+FigureParameters defaultParameters(int figure) {
+    switch (figure) {
+        case 0:
+            return PolygonOutlineFigure{};
+        case 1:
+            return PolygonFilledFigure{};
+        case 2:
+            return LineFigure{};
+        case 3:
+            return TriangleFigure{};
+        case 4:
+            return RectangleFigure{};
+        case 5:
+            return RegularPolygonFigure{};
+        default:
+            return CircleFigure{};
+    }
+}
+
+// Fits the window around the figure with the usual margin, unless the scale is frozen.
+void fitWindow(Workbench& wb, FractalPictures& pics, const FigureParameters& p,
+               const DesignPolygon& polygon) {
+    WorldWindow w = FigureFitWindow(p, polygon, 0.0f);
+    SquareWindow(w.xmin, w.xmax, w.ymin, w.ymax);
+    AddWindowMargin(w.xmin, w.xmax, w.ymin, w.ymax);
+    SetUpDeterministicWindow(wb, pics, w.xmin, w.xmax, w.ymin, w.ymax, false);
+}
+
+}  // namespace
+
+void RegisterFigureCommands(MainWindow& frame) {
+    auto memory = std::make_shared<FigureMemory>();
+    AppState& s = frame.state();
+    s.pics.Det.FigureDrawer = [&frame, memory](Workbench& wb, FractalPictures& pics, Host& host, int figure,
+                                               bool showDialog, bool resetWindow) {
+        if (figure < 0 || figure > 6) figure = 0;  // pictures from files come with their own module
+        std::optional<FigureParameters> p = memory->figs.last[figure];
+        if (showDialog) {
+            p = AskFigure(&frame, host, figure, memory->polygon, p);
+            if (!p) return false;
+        }
+        if (!p) p = defaultParameters(figure);
+        if (resetWindow) fitWindow(wb, pics, *p, memory->polygon);
+        AcceptFigure(wb, memory->figs, figure, p, memory->polygon, pics.picfractal, pics.picImage3);
+        FigureColorItems(wb, memory->figs, figure);
+        return true;
+    };
+    Host& host = frame.host();
+    for (int k = 0; k <= 6; ++k) {
+        frame.setCommand("mnuDrawAddFigure(" + std::to_string(k) + ")", [&s, &host, k] {
+            if (s.wb.RandomMode || s.wb.DrawingActive) return;
+            if (!DrawDetWindowFigure(s.wb, s.pics, host, k, true, true)) return;
+            ResetDetFigure(s.wb, k);
+            ResetDeterministic(s.wb, s.pics, host);
+        });
+    }
+    frame.setCommand("mnuDrawType(0)", [&s, &host] { mnuDrawType_Click(s.wb, s.pics, host, 0); });
+    frame.setCommand("mnuDrawType(1)", [&s, &host] { mnuDrawType_Click(s.wb, s.pics, host, 1); });
+}
+
+}  // namespace quillane
