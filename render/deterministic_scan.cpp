@@ -5,6 +5,8 @@
 #include <cmath>
 #include <vector>
 
+#include "render/run_maps.h"
+
 namespace quillane {
 
 namespace {
@@ -23,17 +25,15 @@ struct LevelMaps {
 
 LevelMaps levelMaps(const Workbench& wb, int which) {
     LevelMaps m;
-    m.n = std::min(wb.mapsFromText(), MaxMaps);
-    const IFSEntry& ifs = wb.CurrentIFS;
-    for (int i = 0; i < m.n; ++i) {
-        m.a[i] = ifs.a[i];
-        m.b[i] = ifs.b[i];
-        m.c[i] = ifs.c[i];
-        m.d[i] = ifs.d[i];
-        m.e[i] = ifs.e[i];
-        m.f[i] = ifs.f[i];
-        m.color[i] = (wb.FunctionColor[i] & RgbMask) | Opaque;
-    }
+    const RunMaps r = CopyRunMaps(wb);
+    m.n = r.n;
+    m.a = r.a;
+    m.b = r.b;
+    m.c = r.c;
+    m.d = r.d;
+    m.e = r.e;
+    m.f = r.f;
+    for (int i = 0; i < m.n; ++i) m.color[i] = (r.color[i] & RgbMask) | Opaque;
     if (which < 0) {
         m.count = m.n;
     } else if (which < m.n) {

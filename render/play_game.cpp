@@ -6,34 +6,11 @@
 #include "core/numbers.h"
 #include "render/fractal_view.h"
 #include "render/map_choice.h"
+#include "render/run_maps.h"
 
 namespace quillane {
 
 namespace {
-
-// The seven coefficient arrays of the run: a private copy, so the loop touches no shared state.
-struct RunMaps {
-    int n = 0;
-    std::array<float, MaxMaps> a{}, b{}, c{}, d{}, e{}, f{}, p{};
-    std::array<Color, MaxMaps> color{};
-};
-
-RunMaps copyMaps(const Workbench& wb) {
-    RunMaps m;
-    m.n = wb.mapsFromText();
-    const IFSEntry& ifs = wb.CurrentIFS;
-    for (int i = 0; i < m.n; ++i) {
-        m.a[i] = ifs.a[i];
-        m.b[i] = ifs.b[i];
-        m.c[i] = ifs.c[i];
-        m.d[i] = ifs.d[i];
-        m.e[i] = ifs.e[i];
-        m.f[i] = ifs.f[i];
-        m.p[i] = ifs.p[i];
-        m.color[i] = wb.FunctionColor[i];
-    }
-    return m;
-}
 
 void switchCommandsForRun(Workbench& wb) {
     MenuTable& m = wb.Menu;
@@ -238,7 +215,7 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
     if (Restart == 1) restartPictures(wb, pics);
     if (pics.Selection.SelectionActive) ClearSelectionRect(wb, pics);
 
-    const RunMaps maps = copyMaps(wb);
+    const RunMaps maps = CopyRunMaps(wb);
     float sum = 0;
     for (int i = 0; i < maps.n; ++i) sum += maps.p[i];
     if (Round(sum, 3) != 1) {
