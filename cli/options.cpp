@@ -23,7 +23,7 @@ const char* const UsageText =
     "      Draws entry N (default 1) of FILE with the random algorithm in the IFS colours\n"
     "      on white: N points after the warm-up (default 100000), a square picture of\n"
     "      PIXELS (default 800), in the window found from the attractor unless given.\n"
-    "      OUT is a PNG or BMP picture, by its extension. Prints the drawing speed.\n"
+    "      OUT is a PNG, GIF, JPEG or BMP picture, by its extension. Prints the drawing speed.\n"
     "  render FILE --deterministic [--levels N]\n"
     "         [--figure polygon|line|triangle|square|circle] [--entry N] [--size PIXELS]\n"
     "         [--window XMIN,XMAX,YMIN,YMAX] -o OUT\n"
@@ -130,9 +130,11 @@ ParseResult parseRender(const std::vector<std::string>& args) {
     if (r.file.empty()) return usage("render needs a FILE");
     if (levelsGiven && !r.deterministic) return usage("--levels and --figure need --deterministic");
     if (r.output.empty()) return usage("render needs -o OUT");
-    std::string ext = r.output.size() >= 4 ? r.output.substr(r.output.size() - 4) : "";
+    const size_t dot = r.output.rfind('.');
+    std::string ext = dot == std::string::npos ? "" : r.output.substr(dot);
     for (char& ch : ext) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
-    if (ext != ".png" && ext != ".bmp") return usage("OUT must end in .png or .bmp");
+    if (ext != ".png" && ext != ".bmp" && ext != ".gif" && ext != ".jpg" && ext != ".jpeg")
+        return usage("OUT must end in .png, .gif, .jpg or .bmp");
     return {cmd, ""};
 }
 
