@@ -47,7 +47,10 @@ int FractalKeyCode(int qtKey) {
     }
     if (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z) return 'A' + (qtKey - Qt::Key_A);
     if (qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) return '0' + (qtKey - Qt::Key_0);
-    return qtKey & 0xFFFF;
+    if (qtKey == Qt::Key_Space || qtKey == Qt::Key_Escape) return qtKey & 0xFF;
+    // Every other key, modifiers alone among them, is none of the window's: Qt's codes for Ctrl or
+    // Shift would otherwise read as Page Up and the like.
+    return 0;
 }
 
 int FractalShiftMask(Qt::KeyboardModifiers modifiers) {

@@ -252,3 +252,27 @@ TEST_F(FractalWindowTest, DeterministicLevelsFromAFilledTriangleKeepHalfAPerLeve
 
 }  // namespace
 }  // namespace quillane::testing
+
+namespace quillane::testing {
+namespace {
+
+TEST(FractalKeys, ModifierKeysAloneAreNoneOfTheWindowsKeys) {
+    // Qt's codes for the modifiers end in bytes that would read as Page Up (Ctrl) and Page Down (Alt).
+    EXPECT_EQ(FractalKeyCode(Qt::Key_Control), 0);
+    EXPECT_EQ(FractalKeyCode(Qt::Key_Shift), 0);
+    EXPECT_EQ(FractalKeyCode(Qt::Key_Alt), 0);
+    EXPECT_EQ(FractalKeyCode(Qt::Key_Meta), 0);
+    EXPECT_EQ(FractalKeyCode(Qt::Key_PageUp), KeyPageUp);
+    EXPECT_EQ(FractalKeyCode(Qt::Key_Q), KeyQ);
+    EXPECT_EQ(FractalKeyCode(Qt::Key_3), '3');
+}
+
+TEST_F(FractalWindowTest, PressingCtrlAloneLeavesTheViewAsItIs) {
+    const WorldWindow before = wb().Window;
+    QTest::keyPress(&picture(), Qt::Key_Control, Qt::ControlModifier);
+    QTest::keyRelease(&picture(), Qt::Key_Control);
+    EXPECT_EQ(wb().Window, before);
+}
+
+}  // namespace
+}  // namespace quillane::testing
