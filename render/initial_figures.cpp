@@ -168,6 +168,18 @@ Checked<TriangleFigure> CheckTriangleDialog(const TriangleDialogText& t) {
     return v;
 }
 
+namespace {
+// The fill and pen of a dialog go with its figure once the numbers passed.
+template <class Figure, class Text>
+Checked<Figure> accepted(Checked<Figure>& v, Figure f, const Text& t) {
+    f.filled = t.filled;
+    f.penWidth = t.thickness;
+    f.color = t.color;
+    v.value = f;
+    return v;
+}
+}  // namespace
+
 Checked<RectangleFigure> CheckRectangleDialog(const RectangleDialogText& t) {
     Checked<RectangleFigure> v;
     RectangleFigure f;
@@ -180,11 +192,7 @@ Checked<RectangleFigure> CheckRectangleDialog(const RectangleDialogText& t) {
     } else if (!field(t.txtHeight, f.height, HeightText, v) || !positive(f.height, HeightPositiveText, v)) {
         return v;
     }
-    f.filled = t.filled;
-    f.penWidth = t.thickness;
-    f.color = t.color;
-    v.value = f;
-    return v;
+    return accepted(v, f, t);
 }
 
 Checked<RegularPolygonFigure> CheckPolygonDialog(const PolygonDialogText& t) {
@@ -194,11 +202,7 @@ Checked<RegularPolygonFigure> CheckPolygonDialog(const PolygonDialogText& t) {
         !field(t.txtWidth, f.width, WidthText, v) || !positive(f.width, WidthPositiveText, v))
         return v;
     f.sides = std::clamp(t.sides, 3, MaxPolygonPoints - 1);
-    f.filled = t.filled;
-    f.penWidth = t.thickness;
-    f.color = t.color;
-    v.value = f;
-    return v;
+    return accepted(v, f, t);
 }
 
 Checked<CircleFigure> CheckCircleDialog(const CircleDialogText& t) {
@@ -207,11 +211,7 @@ Checked<CircleFigure> CheckCircleDialog(const CircleDialogText& t) {
     if (!field(t.txtX, f.x, CircleXText, v) || !field(t.txtY, f.y, CircleYText, v) ||
         !field(t.txtRadius, f.radius, RadiusText, v) || !positive(f.radius, RadiusPositiveText, v))
         return v;
-    f.filled = t.filled;
-    f.penWidth = t.thickness;
-    f.color = t.color;
-    v.value = f;
-    return v;
+    return accepted(v, f, t);
 }
 
 Checked<PolygonFilledFigure> CheckPolygonFillDialog(const DesignPolygon& polygon,
