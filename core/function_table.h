@@ -8,7 +8,8 @@
 
 namespace quillane {
 
-inline constexpr int TableColumns = 9;  // txta, txtb, txtC, txtD, txtE, txtF, txtProb, txtFPx, txtFPy
+// txta, txtb, txtC, txtD, txtE, txtF, txtProb, txtFPx, txtFPy: the boxes of one row.
+inline constexpr int TableColumns = TableColumnCount;
 
 // Headings of columns 1 to 9 for the form in use; columns 8 and 9 are empty outside the fixed point form.
 std::array<std::string, TableColumns> ColumnHeadings(const Workbench& wb);
