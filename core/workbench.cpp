@@ -1,5 +1,6 @@
 #include "core/workbench.h"
 
+#include "core/initial_polygons.h"
 #include "core/numbers.h"
 
 namespace quillane {
@@ -14,6 +15,7 @@ Workbench::Workbench() : FractalList(MaxFractals + 1) {
     TilingColor = TilingColorDefaults;
     TilingFileColors = TilingColorDefaults;
     Window = {-0.1f, 1.1f, -0.1f, 1.1f};
+    InitialPolygon = BuiltInPolygon(0);
     WriteWindowText(*this);
 }
 

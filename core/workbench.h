@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/colors.h"
+#include "core/design_polygon.h"
 #include "core/ifs_entry.h"
 #include "core/menu_state.h"
 #include "core/random.h"
@@ -96,6 +97,12 @@ class Workbench {
     WorldWindow DesignWindow{-0.1f, 1.1f, -0.1f, 1.1f};
     std::string DesignCaption = "Design (IFS)";
     std::string ScaleCGCaption = "Chaos Game Design";  // frmScaleCG
+    // The polygon every function is an image of, and the one the person drew or loaded.
+    DesignPolygon InitialPolygon;
+    DesignPolygon UserPolygon;
+    // The design grid; equal unless the grid dialog separates them.
+    float GridX = 0.1f, GridY = 0.1f;
+    int16_t LineThickness = 0;  // 0, 2 or 4: twice the index of the checked mnuDesignLine item
 
     // Files and settings.
     std::string IFSFileName;  // the list's file, empty when none is loaded

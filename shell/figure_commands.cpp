@@ -13,11 +13,9 @@ namespace quillane {
 
 namespace {
 
-// What the figures remember between commands. The design window's polygon arrives with that window;
-// until then the figures of the design polygon use the oriented unit square.
+// What the figures remember between commands.
 struct FigureMemory {
     InitialFigures figs;
-    DesignPolygon polygon = BuiltInPolygon(0);
 };
 
 FigureParameters defaultParameters(int figure) {
@@ -58,12 +56,12 @@ void RegisterFigureCommands(MainWindow& frame) {
         if (figure < 0 || figure > 6) figure = 0;  // pictures from files come with their own module
         std::optional<FigureParameters> p = memory->figs.last[figure];
         if (showDialog) {
-            p = AskFigure(&frame, host, figure, memory->polygon, p);
+            p = AskFigure(&frame, host, figure, wb.InitialPolygon, p);
             if (!p) return false;
         }
         if (!p) p = defaultParameters(figure);
-        if (resetWindow) fitWindow(wb, pics, *p, memory->polygon);
-        AcceptFigure(wb, memory->figs, figure, p, memory->polygon, pics.picfractal, pics.picImage3);
+        if (resetWindow) fitWindow(wb, pics, *p, wb.InitialPolygon);
+        AcceptFigure(wb, memory->figs, figure, p, wb.InitialPolygon, pics.picfractal, pics.picImage3);
         FigureColorItems(wb, memory->figs, figure);
         return true;
     };

@@ -257,3 +257,10 @@ TEST_F(PolygonModeTest, FinishDropsATrailingPenLift) {
 
 }  // namespace
 }  // namespace quillane
+
+TEST(InitialPolygonState, AFreshWorkbenchUsesTheOrientedUnitSquare) {
+    quillane::Workbench wb;
+    EXPECT_EQ(wb.InitialPolygon, quillane::BuiltInPolygon(0));
+    EXPECT_EQ(wb.InitialPolygon.nPoints, 9);
+    EXPECT_EQ(wb.UserPolygon.nPoints, 0);
+}
