@@ -6,6 +6,8 @@
 
 #include "render/deterministic_scan.h"
 #include "render/fractal_view.h"
+#include "render/initial_figures.h"
+#include "render/picture_figures.h"
 #include "render/scale.h"
 
 namespace quillane {
@@ -201,7 +203,9 @@ void SetUpDeterministicWindow(Workbench& wb, FractalPictures& pics, float xmin, 
 
 bool DrawDetWindowFigure(Workbench& wb, FractalPictures& pics, Host& host, int Figure, bool ShowDialog,
                          bool ResetWindow) {
-    if (pics.Det.FigureDrawer) {
+    if (Figure > 6) {
+        if (!DrawPictureFigure(wb, pics, host, Figure, ShowDialog, ResetWindow)) return false;
+    } else if (pics.Det.FigureDrawer) {
         if (!pics.Det.FigureDrawer(wb, pics, host, Figure, ShowDialog, ResetWindow)) return false;
     } else {
         // No figures yet: the initial set is empty.
@@ -268,8 +272,19 @@ void RedrawDeterministicView(Workbench& wb, FractalPictures& pics, Host& host) {
 void CalcScaleDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     pics.picfractal.clear();
     backToLevelZero(wb, pics);
+    const WorldWindow before = wb.Window;
     setscale(wb, host);
-    DrawDetWindowFigure(wb, pics, host, std::max<int>(wb.DetFigure, 0), false, true);
+    if (wb.DetFigure > 6 && pics.PictureOverlaid) {
+        // A placed picture keeps its pixels; only the world around it changes.
+        PastePositionAfterRescale(before, wb.Window, pics.picfractal.width(), pics.PasteX, pics.PasteY);
+        const WorldWindow w = wb.Window;
+        SetUpDeterministicWindow(wb, pics, w.xmin, w.xmax, w.ymin, w.ymax, false);
+        DrawDetFigure(wb, pics, host, false);
+        pics.Det.DetWindow = wb.Window;
+        pics.Det.DetWindowStored = true;
+    } else {
+        DrawDetWindowFigure(wb, pics, host, std::max<int>(wb.DetFigure, 0), false, true);
+    }
     wb.FitWindow = wb.Window;
     pics.picImage2.takeImage(pics.picfractal);
 }

@@ -3,10 +3,12 @@
 // window's pictures, so a test that makes fresh pictures starts from a fresh state.
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "core/colors.h"
 #include "core/workbench.h"
+#include "render/raster_surface.h"
 
 namespace quillane {
 
@@ -52,6 +54,8 @@ struct DeterministicState {
     // gradient mode colours in DetSingleColor.
     DetFigureDrawer FigureDrawer;
     DetGradientColor GradientColor;
+    // The clipboard's bitmap for the clipboard figure; nothing when it holds none.
+    std::function<std::optional<RasterSurface>()> ClipboardBitmap;
 };
 
 }  // namespace quillane

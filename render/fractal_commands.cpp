@@ -2,6 +2,7 @@
 #include <string>
 
 #include "render/deterministic.h"
+#include "render/floating_picture.h"
 #include "render/fractal_view.h"
 #include "render/play_game.h"
 
@@ -16,11 +17,16 @@ bool deterministicDrawing(const Workbench& wb) {
 }
 
 void deleteKey(Workbench& wb, FractalPictures& pics, int shiftMask) {
-    // Ctrl keeps a placed picture; the floating picture does not exist yet, so a placed one is hidden.
-    const bool keep = (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid;
+    const bool keep = (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid &&
+                      !pics.Floating.Visible;
     ClearImage(wb, pics, keep);
     wb.DrawingActive = false;
     wb.DrawingStarted = false;
+}
+
+// A floating picture stays on its pixels while the view moves, so its corners change.
+void showFloatingCorners(FractalPictures& pics) {
+    if (pics.Floating.Visible) pics.picCoord = PasteCornersText(pics);
 }
 
 }  // namespace
@@ -28,6 +34,7 @@ void deleteKey(Workbench& wb, FractalPictures& pics, int shiftMask) {
 // The window shows itself and takes the focus before this runs; the yield lets it paint first.
 void mnuRun_Click(Workbench& wb, FractalPictures& pics, Host& host) {
     if (wb.DrawingActive) return;
+    PlaceFractalSelection(wb, pics);
     host.yield();
     if (!wb.RandomMode) {
         wb.FractalCaption = DeterministicCaption;
@@ -80,12 +87,15 @@ bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCod
                 ZoomIn(wb, pics, host);
             else
                 ZoomOut(wb, pics, host, -5, true);
+            showFloatingCorners(pics);
             return true;
         case KeyPageDown:
             ZoomOut(wb, pics, host, 5, true);
+            showFloatingCorners(pics);
             return true;
         case KeyHome:
             ZoomOut(wb, pics, host, -1, true);
+            showFloatingCorners(pics);
             return true;
         case KeyLeft:
         case KeyUp:
@@ -93,14 +103,29 @@ bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCod
         case KeyDown:
             if (deterministicDrawing(wb)) return false;
             ShiftDrawWin(wb, pics, host, keyCode);
+            showFloatingCorners(pics);
+            return true;
+        case KeyEsc:
+            if (pics.Floating.Visible) {
+                PlaceFractalSelection(wb, pics);
+                return true;
+            }
+            return LiftPlacedPicture(wb, pics);
+        case KeyR:
+            if (shiftMask != CtrlAlt || !pics.Floating.Visible) break;
+            pics.Floating.ResizeHandles = !pics.Floating.ResizeHandles;
+            wb.Menu.setChecked("mnuPicPastePopUpResize", pics.Floating.ResizeHandles);
             return true;
         case KeyDelete:
             if (deterministicDrawing(wb)) return false;
             deleteKey(wb, pics, shiftMask);
             return true;
         default:
-            return DeterministicDigitKey(wb, pics, host, keyCode, shiftMask);
+            break;
     }
+    if (wb.RandomMode || wb.DrawingActive) return false;
+    PlaceFractalSelection(wb, pics);
+    return DeterministicDigitKey(wb, pics, host, keyCode, shiftMask);
 }
 
 void ResizeFractalWin(Workbench& wb, FractalPictures& pics, int side) {

@@ -2,6 +2,7 @@
 
 #include "core/numbers.h"
 #include "render/deterministic.h"
+#include "render/floating_picture.h"
 #include "render/scale.h"
 
 namespace quillane {
@@ -67,7 +68,14 @@ void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
         ClearImageDeterministicBranch(wb, pics);
         return;
     }
-    if (!KeepPicture) pics.PictureOverlaid = false;
+    if (pics.Floating.Visible) {
+        PlaceFractalSelection(wb, pics);
+    } else if (!KeepPicture) {
+        pics.PictureOverlaid = false;
+    } else if (pics.PictureOverlaid) {
+        for (RasterSurface* s : {&pics.picfractal, &pics.picImage2})
+            s->paint(pics.picPaste, pics.PasteX, pics.PasteY, RasterOp::Copy);
+    }
 }
 
 }  // namespace quillane

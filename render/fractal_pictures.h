@@ -26,6 +26,14 @@ struct FractalSelection {
     int SavedDrawWidth = 1;
 };
 
+// picPaste while it floats over picfractal: its place and size in picfractal's pixels.
+struct FloatingPicture {
+    bool Visible = false;
+    int Left = 0, Top = 0, Width = 0, Height = 0;
+    // mnuPicPastePopUpResize: the grab handles resize; off, they only move the picture.
+    bool ResizeHandles = true;
+};
+
 struct FractalPictures {
     RasterSurface picfractal;     // what the person sees
     RasterSurface picImage2;      // shadow of the drawing; zoom rectangles and trace dots erase back to it
@@ -34,7 +42,9 @@ struct FractalPictures {
     RasterSurface picImage;
     RasterSurface picMask;
     RasterSurface picImage4;
-    RasterSurface picPaste;  // a placed picture
+    RasterSurface picPaste;       // the picture at its present size, floating or placed
+    RasterSurface picImagePaste;  // the picture at its own size, which every resize starts from
+    FloatingPicture Floating;
     bool PictureOverlaid = false;
     double PasteX = 0, PasteY = 0;  // in world units
 

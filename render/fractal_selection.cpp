@@ -119,7 +119,7 @@ void FractalMouseMove(Workbench& wb, FractalPictures& pics, double x, double y) 
     const FractalSelection& s = pics.Selection;
     if (s.DrawingLine || s.SelectionDragging)
         dragTo(wb, pics, x, y);
-    else
+    else if (!pics.Floating.Visible)  // the floating picture's corners stay on show
         pics.picCoord = CoordinateText(wb.Window, x, y);
 }
 

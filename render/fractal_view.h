@@ -31,6 +31,8 @@ enum FractalKey : int {
     KeyDelete = 46,
     KeyQ = 81,
     KeyD = 68,
+    KeyR = 82,
+    KeyEsc = 27,
 };
 // Shift mask bits.
 enum ShiftMask : int { ShiftMaskShift = 1, ShiftMaskCtrl = 2, ShiftMaskAlt = 4 };

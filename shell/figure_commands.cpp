@@ -1,13 +1,18 @@
 #include "shell/figure_commands.h"
 
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <memory>
 
 #include "core/initial_polygons.h"
 #include "render/deterministic.h"
 #include "render/initial_figures.h"
+#include "render/picture_figures.h"
 #include "render/scale.h"
 #include "shell/figure_dialogs.h"
+#include "shell/fractal_window.h"
 #include "shell/main_window.h"
+#include "shell/surface_image.h"
 
 namespace quillane {
 
@@ -53,7 +58,7 @@ void RegisterFigureCommands(MainWindow& frame) {
     AppState& s = frame.state();
     s.pics.Det.FigureDrawer = [&frame, memory](Workbench& wb, FractalPictures& pics, Host& host, int figure,
                                                bool showDialog, bool resetWindow) {
-        if (figure < 0 || figure > 6) figure = 0;  // pictures from files come with their own module
+        if (figure < 0 || figure > 6) figure = 0;
         std::optional<FigureParameters> p = memory->figs.last[figure];
         if (showDialog) {
             p = AskFigure(&frame, host, figure, wb.InitialPolygon, p);
@@ -62,18 +67,20 @@ void RegisterFigureCommands(MainWindow& frame) {
         if (!p) p = defaultParameters(figure);
         if (resetWindow) fitWindow(wb, pics, *p, wb.InitialPolygon);
         AcceptFigure(wb, memory->figs, figure, p, wb.InitialPolygon, pics.picfractal, pics.picImage3);
-        FigureColorItems(wb, memory->figs, figure);
         return true;
     };
+    s.pics.Det.ClipboardBitmap = [] { return ClipboardBitmap(); };
     Host& host = frame.host();
-    for (int k = 0; k <= 6; ++k) {
-        frame.setCommand("mnuDrawAddFigure(" + std::to_string(k) + ")", [&s, &host, k] {
-            if (s.wb.RandomMode || s.wb.DrawingActive) return;
-            if (!DrawDetWindowFigure(s.wb, s.pics, host, k, true, true)) return;
-            ResetDetFigure(s.wb, k);
-            ResetDeterministic(s.wb, s.pics, host);
-        });
+    for (int k = 0; k <= ClipboardFigure; ++k) {
+        frame.setCommand("mnuDrawAddFigure(" + std::to_string(k) + ")",
+                         [&s, &host, memory, k] { mnuDrawAddFigure_Click(s.wb, s.pics, host, memory->figs, k); });
     }
+    frame.setCommand("mnuEditPaste", [&frame, &s, &host, memory] {
+        if (s.wb.DrawingActive) return;
+        QMdiSubWindow* active = frame.mdiArea()->activeSubWindow();
+        if (active && frame.fractalWindow() && active->widget() == frame.fractalWindow())
+            PasteFractalFigure(s.wb, s.pics, host, memory->figs);
+    });
     frame.setCommand("mnuDrawType(0)", [&s, &host] { mnuDrawType_Click(s.wb, s.pics, host, 0); });
     frame.setCommand("mnuDrawType(1)", [&s, &host] { mnuDrawType_Click(s.wb, s.pics, host, 1); });
 }

@@ -1,22 +1,24 @@
 #include "shell/fractal_commands.h"
 
-#include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QScreen>
 
+#include "render/floating_picture.h"
 #include "render/fractal_view.h"
 #include "render/list_entry_commands.h"
 #include "render/picture_commands.h"
 #include "render/table_commands.h"
 #include "shell/fractal_window.h"
+#include "shell/surface_image.h"
 #include "shell/frame_toolbar.h"
 #include "shell/functions_window.h"
 #include "shell/how_many_dialog.h"
 #include "shell/image_size_dialog.h"
 #include "shell/main_window.h"
+#include "shell/paste_data_dialog.h"
 
 namespace quillane {
 
@@ -114,11 +116,7 @@ void registerPictures(MainWindow& frame) {
     AppState& s = frame.state();
     Host& host = frame.host();
     auto copy = [&s] {
-        const RasterSurface& p = s.pics.picfractal;
-        if (p.width() == 0) return;
-        const QImage image(reinterpret_cast<const uchar*>(p.data()), p.width(), p.height(), p.width() * 4,
-                           QImage::Format_RGBX8888);
-        QGuiApplication::clipboard()->setImage(image.convertToFormat(QImage::Format_RGB32));
+        if (!s.wb.DrawingActive) CopySurfaceToClipboard(s.pics.picfractal);
     };
     frame.setCommand("mnuEditCopy", copy);
     frame.setCommand("mnuPopupCopy", copy);
@@ -129,12 +127,39 @@ void registerPictures(MainWindow& frame) {
     frame.setCommand("mnuPopUpClear", [] {});
 }
 
+// A picture floating over the drawing, and placed under it.
+void registerBackground(MainWindow& frame) {
+    AppState& s = frame.state();
+    Host& host = frame.host();
+    frame.setCommand("mnuDrawLoadPicture", [&s, &host] { mnuDrawLoadPicture_Click(s.wb, s.pics, host); });
+    frame.setCommand("mnuDrawClearBGPic", [&s] { mnuDrawClearBGPic_Click(s.wb, s.pics); });
+    frame.setCommand("mnuEditPasteBackground", [&frame, &s] {
+        QMdiSubWindow* active = frame.mdiArea()->activeSubWindow();
+        if (!active || active->widget() != frame.fractalWindow()) return;
+        const std::optional<RasterSurface> clipboard = ClipboardBitmap();
+        mnuEditPasteBackground_Click(s.wb, s.pics, clipboard ? &*clipboard : nullptr);
+    });
+    frame.setCommand("mnuPicPastePopUpFinish", [&s] { PlaceFractalSelection(s.wb, s.pics); });
+    frame.setCommand("mnuPicPastePopUpResize", [&s] {
+        s.pics.Floating.ResizeHandles = !s.pics.Floating.ResizeHandles;
+        s.wb.Menu.setChecked("mnuPicPastePopUpResize", s.pics.Floating.ResizeHandles);
+    });
+    frame.setCommand("mnuPicPastePopUpSet", [&frame, &s, &host] {
+        if (!s.pics.Floating.Visible) return;
+        PasteDataDialog dialog(host, s.pics, &frame);
+        if (dialog.exec() == QDialog::Accepted) ApplyPasteData(s.pics, dialog.values());
+    });
+    frame.setCommand("mnuPicPastePopUpCancel", [] {});
+    s.wb.Menu.setChecked("mnuPicPastePopUpResize", s.pics.Floating.ResizeHandles);
+}
+
 }  // namespace
 
 void RegisterFractalCommands(MainWindow& frame) {
     registerDrawing(frame);
     registerView(frame);
     registerPictures(frame);
+    registerBackground(frame);
     if (FractalWindow* fractal = frame.fractalWindow()) {
         fractal->runCommand = [&frame](const std::string& key) { frame.runCommand(key); };
         fractal->afterCommand = [&frame] { frame.refreshWindows(); };
@@ -144,6 +169,9 @@ void RegisterFractalCommands(MainWindow& frame) {
         frame.toolbar()->txtFractalSize()->setText(QString::fromStdString(fractal->sizeText));
         fractal->onDrawMenuRequested = [&frame](QPoint at) {
             if (QMenu* draw = frame.menu("mnuDraw")) draw->exec(at);
+        };
+        fractal->onPastePopupRequested = [&frame](QPoint at) {
+            if (QMenu* popup = frame.menu("mnuPicPastePopUpMenu")) popup->exec(at);
         };
     }
 }

@@ -14,6 +14,7 @@
 
 #include "render/deterministic.h"
 #include "render/fractal_view.h"
+#include "shell/floating_picture_widget.h"
 #include "shell/picture_widget.h"
 
 namespace quillane {
@@ -79,6 +80,11 @@ FractalWindow::FractalWindow(AppState& state, Host& host, QWidget* parent)
     picfractal_ = new PictureWidget;
     picfractal_->setObjectName("picfractal");
     picOuter_->setWidget(picfractal_);
+    picPaste_ = new FloatingPictureWidget(state_.pics, picfractal_);
+    picPaste_->onChanged = [this] { picCoord_->setText(QString::fromStdString(state_.pics.picCoord)); };
+    picPaste_->onPopupRequested = [this](QPoint at) {
+        if (onPastePopupRequested) onPastePopupRequested(at);
+    };
     layout->addWidget(picOuter_, 1);
 
     auto* status = new QHBoxLayout;
@@ -174,6 +180,7 @@ void FractalWindow::refresh() {
         picfractal_->size() != QSize(state_.pics.picfractal.width(), state_.pics.picfractal.height()))
         picfractal_->setSurface(&state_.pics.picfractal);
     picfractal_->update();
+    picPaste_->sync();
 }
 
 void FractalWindow::relayout() {
@@ -205,6 +212,12 @@ void FractalWindow::showEvent(QShowEvent* event) {
 }
 
 void FractalWindow::keyPressEvent(QKeyEvent* event) {
+    // Ctrl+Alt+P places the floating picture by numbers, in a dialog of the frame.
+    if (event->key() == Qt::Key_P && FractalShiftMask(event->modifiers()) == (ShiftMaskCtrl | ShiftMaskAlt) &&
+        state_.pics.Floating.Visible && runCommand) {
+        runCommand("mnuPicPastePopUpSet");
+        return;
+    }
     const bool handled = FractalKeyDown(state_.wb, state_.pics, host_, FractalKeyCode(event->key()),
                                         modifierMask(event->modifiers()));
     changed();

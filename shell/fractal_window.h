@@ -15,6 +15,7 @@ class QAction;
 namespace quillane {
 
 class PictureWidget;
+class FloatingPictureWidget;
 
 class FractalWindow : public QWidget {
     Q_OBJECT
@@ -25,8 +26,11 @@ class FractalWindow : public QWidget {
     // Lays the picture out for the present window size (ResizeFractalWin).
     void relayout();
     PictureWidget* picture() const { return picfractal_; }
+    FloatingPictureWidget* floatingPicture() const { return picPaste_; }
     // Opens the frame's D&raw menu at a screen position (set by the frame).
     std::function<void(QPoint)> onDrawMenuRequested;
+    // Opens the floating picture's pop-up menu at a screen position (set by the frame).
+    std::function<void(QPoint)> onPastePopupRequested;
     // Runs a command of the frame by its menu key (set by the frame), for the toolbar buttons.
     std::function<void(const std::string&)> runCommand;
     // Called after a key, a click or a toolbar button changed the state, to show it everywhere.
@@ -55,6 +59,7 @@ class FractalWindow : public QWidget {
     QAction* play_ = nullptr;
     QScrollArea* picOuter_ = nullptr;
     PictureWidget* picfractal_ = nullptr;
+    FloatingPictureWidget* picPaste_ = nullptr;
     QLabel* picCoord_ = nullptr;
     QLabel* picCount_ = nullptr;
     QLabel* picTrace_ = nullptr;
