@@ -11,6 +11,8 @@
 #include "core/ifs_file_writer.h"
 #include "core/numbers.h"
 #include "render/deterministic.h"
+#include "render/floating_picture.h"
+#include "render/picture_figures.h"
 #include "render/engine_workload.h"
 #include "render/fractal_pictures.h"
 #include "render/image_file.h"
@@ -59,11 +61,31 @@ DetFigureDrawer figureDrawer(const std::string& figure) {
     };
 }
 
+// The --initial picture floats over the drawing as if pasted, and is placed at once.
+bool placeInitialPicture(Workbench& wb, FractalPictures& pics, CliHost& host, const RenderOptions& r) {
+    RasterSurface picture;
+    std::string error;
+    if (!LoadImageFile(r.initial, picture, error)) {
+        std::cerr << "Could not read " << r.initial << ": " << error << "\n";
+        return false;
+    }
+    pics.Det.ClipboardBitmap = [picture] { return std::optional<RasterSurface>(picture); };
+    if (wb.RandomMode) {
+        mnuEditPasteBackground_Click(wb, pics, &picture);
+    } else {
+        InitialFigures figs;
+        mnuDrawAddFigure_Click(wb, pics, host, figs, ClipboardFigure);
+    }
+    PlaceFractalSelection(wb, pics);
+    return wb.RandomMode || wb.DetFigure == ClipboardFigure;
+}
+
 int renderDeterministic(Workbench& wb, FractalPictures& pics, CliHost& host, const RenderOptions& r) {
     wb.Menu.setChecked(MenuTable::key("mnuColors", 0), true);
     pics.Det.FigureDrawer = figureDrawer(r.figure);
     wb.DetFigure = -1;  // the figure is chosen now, with the IFS colour scheme
     mnuDrawType_Click(wb, pics, host, 1);
+    if (!r.initial.empty() && !placeInitialPicture(wb, pics, host, r)) return 1;
     const auto start = std::chrono::steady_clock::now();
     IterateLevels(wb, pics, host, r.levels);
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
@@ -132,6 +154,7 @@ int RunRender(const Command& cmd) {
         return 1;
     }
 
+    if (!r.initial.empty() && !placeInitialPicture(wb, pics, host, r)) return 1;
     const auto start = std::chrono::steady_clock::now();
     PlayGame(wb, pics, host, 0, r.points);
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();

@@ -32,6 +32,10 @@ const char* const UsageText =
     "      (polygon, the default), the segment (0,0)-(1,0), the filled triangle (0,0),\n"
     "      (1,0), (0.5,1), the filled unit square or the filled circle of radius 0.5\n"
     "      about (0.5,0.5). The window is the attractor's, widened to hold the figure.\n"
+    "  render FILE [--deterministic ...] --initial PICTURE -o OUT\n"
+    "      Takes a GIF, PNG, JPEG or BMP picture, fitted into the drawing and centred:\n"
+    "      with --deterministic it is the initial set, drawn in its own colours; without,\n"
+    "      it is the background under the random drawing.\n"
     "  --bench [--points N] [--size PIXELS]\n"
     "      Measures the random drawing engine with 3 and 100 maps.\n"
     "  --help\n"
@@ -116,7 +120,10 @@ ParseResult parseRender(const std::vector<std::string>& args) {
                 (v != "polygon" && v != "line" && v != "triangle" && v != "square" && v != "circle"))
                 return usage("--figure needs polygon, line, triangle, square or circle");
             r.figure = v;
+            r.figureGiven = true;
             levelsGiven = true;
+        } else if (a == "--initial") {
+            if (!value(r.initial) || r.initial.empty()) return usage("--initial needs a picture file");
         } else if (a == "-o") {
             if (!value(r.output)) return usage("-o needs a file name");
         } else if (!a.empty() && a[0] == '-') {
@@ -129,6 +136,7 @@ ParseResult parseRender(const std::vector<std::string>& args) {
     }
     if (r.file.empty()) return usage("render needs a FILE");
     if (levelsGiven && !r.deterministic) return usage("--levels and --figure need --deterministic");
+    if (r.figureGiven && !r.initial.empty()) return usage("--figure and --initial exclude each other");
     if (r.output.empty()) return usage("render needs -o OUT");
     const size_t dot = r.output.rfind('.');
     std::string ext = dot == std::string::npos ? "" : r.output.substr(dot);

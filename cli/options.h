@@ -20,6 +20,10 @@ struct RenderOptions {
     bool deterministic = false;
     int levels = 5;
     std::string figure = "polygon";  // polygon, line, triangle, square or circle
+    bool figureGiven = false;
+    // --initial: a picture file, the initial set of a deterministic drawing or the background of a
+    // random one, fitted into the picture and centred.
+    std::string initial;
 };
 
 struct BenchOptions {

@@ -82,5 +82,14 @@ check "levels without --deterministic is bad usage" status 2 "$cli" render "$dat
 check "unknown figure is bad usage" status 2 "$cli" render "$data/default.ifs" --deterministic --figure hexagon -o "$work/x.png"
 check "too many levels is bad usage" status 2 "$cli" render "$data/default.ifs" --deterministic --levels 101 -o "$work/x.png"
 
+check "a picture as the initial set" status 0 "$cli" render "$data/default.ifs" --deterministic --levels 0 --initial "$work/d.png" --size 64 -o "$work/i0.png"
+check "level 0 is the picture itself" cmp -s "$work/d.png" "$work/i0.png"
+check "levels of a picture" status 0 "$cli" render "$data/default.ifs" --deterministic --levels 2 --initial "$work/d.png" --size 64 -o "$work/i2.png"
+check "a level changes the picture" test -n "$(cmp "$work/i0.png" "$work/i2.png" 2>&1)"
+check "a background under a random drawing" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --initial "$work/d.png" -o "$work/b.png"
+check "the background shows" test -n "$(cmp "$work/u.png" "$work/b.png" 2>&1)"
+check "an unreadable picture exits 1" status 1 "$cli" render "$data/default.ifs" --deterministic --initial "$data/default.ifs" -o "$work/x.png"
+check "figure and initial picture is bad usage" status 2 "$cli" render "$data/default.ifs" --deterministic --figure line --initial "$work/d.png" -o "$work/x.png"
+
 echo "$failures failure(s)"
 [ "$failures" -eq 0 ]
