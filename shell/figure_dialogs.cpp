@@ -5,6 +5,8 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QSpinBox>
 #include <functional>
 #include <map>
@@ -56,6 +58,33 @@ class FigureDialog : public QDialog {
         form_->addRow(label, s);
         return s;
     }
+    // A button showing a colour; clicking it asks the host for another.
+    QPushButton* colorButton(const char* name, const QString& label, Host& host, Color& color) {
+        auto* b = new QPushButton(this);
+        b->setObjectName(name);
+        auto show = [b, &color] {
+            b->setStyleSheet(QString("background-color: rgb(%1,%2,%3)")
+                                 .arg(color & 0xFF)
+                                 .arg((color >> 8) & 0xFF)
+                                 .arg((color >> 16) & 0xFF));
+        };
+        show();
+        connect(b, &QPushButton::clicked, this, [&host, &color, show] {
+            if (std::optional<Color> c = host.chooseColor(color)) {
+                color = *c;
+                show();
+            }
+        });
+        form_->addRow(label, b);
+        return b;
+    }
+    QRadioButton* radio(const char* name, const QString& label, bool on) {
+        auto* r = new QRadioButton(label, this);
+        r->setObjectName(name);
+        r->setChecked(on);
+        form_->addRow(r);
+        return r;
+    }
     void finish(std::function<bool()> onOk) {
         onOk_ = std::move(onOk);
         auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -92,6 +121,8 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
                                           const std::optional<FigureParameters>& last) {
     FigureDialog d(parent, figure);
     std::optional<FigureParameters> result;
+    // The colours the dialog's buttons change; they outlive the buttons.
+    Color color = Black, fill = Black;
     if (figure == 0) {
         auto f = lastOr(last, PolygonOutlineFigure{});
         auto* width = d.spin("cmbWidth", "Line width", f.penWidth, 1, 20);
@@ -108,31 +139,54 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
             return take(host, CheckPolygonFillDialog(polygon, f), result);
         });
     } else if (figure == 2) {
-        const auto f = lastOr(last, LineFigure{});
+        auto f = lastOr(last, LineFigure{});
         auto* x1 = d.box("txtX1", "X1", num(f.x1));
         auto* y1 = d.box("txtY1", "Y1", num(f.y1));
         auto* x2 = d.box("txtX2", "X2", num(f.x2));
         auto* y2 = d.box("txtY2", "Y2", num(f.y2));
-        auto* width = d.spin("cmbWidth", "Line width", f.penWidth, 1, 20);
-        d.finish([=, &result, &host]() mutable {
+        auto* width = d.spin("cmbWidth", "Line width", f.penWidth, 1, 21);
+        color = f.color;
+        d.colorButton("picColor", "Colour", host, color);
+        d.finish([=, &result, &host, &color]() mutable {
             LineDialogText t{x1->text().toStdString(), y1->text().toStdString(), x2->text().toStdString(),
-                             y2->text().toStdString(), width->value(),           Black};
+                             y2->text().toStdString(), width->value(),           color};
             return take(host, CheckLineDialog(t), result);
         });
     } else if (figure == 3) {
         const auto f = lastOr(last, TriangleFigure{});
+        auto* equil = d.radio("optEquil", "Equilateral", f.shape == TriangleShape::Equilateral);
+        auto* right = d.radio("optRight", "Right angled", f.shape == TriangleShape::Right);
+        d.radio("optGeneral", "General (three corners)", f.shape == TriangleShape::General);
         auto* x = d.box("txtX", "x (lower left)", num(f.x));
         auto* y = d.box("txtY", "y (lower left)", num(f.y));
         auto* w = d.box("txtWidth", "Width", num(f.width));
-        auto* filled = d.check("chkFilled", "Filled", true);
-        d.finish([=, &result, &host]() mutable {
+        auto* h = d.box("txtHeight", "Height", num(f.height));
+        QLineEdit* points[6];
+        const char* const pointNames[6] = {"txtPoints0", "txtPoints1", "txtPoints2",
+                                           "txtPoints3", "txtPoints4", "txtPoints5"};
+        for (int k = 0; k < 6; ++k)
+            points[k] = d.box(pointNames[k], QString("%1%2").arg(k % 2 ? "y" : "x").arg(k / 2 + 1),
+                              num(k % 2 ? f.py[k / 2] : f.px[k / 2]));
+        auto* filled = d.check("optFilled", "Filled", f.filled);
+        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
+        fill = f.fillColor;
+        color = f.lineColor;
+        d.colorButton("picFillColor", "Fill colour", host, fill);
+        d.colorButton("picColor", "Line colour", host, color);
+        d.finish([=, &result, &host, &color, &fill]() mutable {
             TriangleDialogText t;
-            t.shape = TriangleShape::Equilateral;
+            t.shape = equil->isChecked()   ? TriangleShape::Equilateral
+                      : right->isChecked() ? TriangleShape::Right
+                                           : TriangleShape::General;
             t.txtX = x->text().toStdString();
             t.txtY = y->text().toStdString();
             t.txtWidth = w->text().toStdString();
-            t.txtHeight = t.txtWidth;
+            t.txtHeight = h->text().toStdString();
+            for (int k = 0; k < 6; ++k) t.txtPoints[k] = points[k]->text().toStdString();
             t.filled = filled->isChecked();
+            t.thickness = width->value();
+            t.fillColor = fill;
+            t.lineColor = color;
             return take(host, CheckTriangleDialog(t), result);
         });
     } else if (figure == 4) {
@@ -142,33 +196,30 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
         auto* y = d.box("txtY", "y (lower left)", num(f.y));
         auto* w = d.box("txtWidth", "Width", num(f.width));
         auto* h = d.box("txtHeight", "Height", num(f.height));
-        auto* filled = d.check("chkFilled", "Filled", f.filled);
-        d.finish([=, &result, &host]() mutable {
-            RectangleDialogText t{square->isChecked(),
-                                  x->text().toStdString(),
-                                  y->text().toStdString(),
-                                  w->text().toStdString(),
-                                  h->text().toStdString(),
-                                  filled->isChecked(),
-                                  1,
-                                  Black};
+        auto* filled = d.check("optFilled", "Filled", f.filled);
+        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
+        color = f.color;
+        d.colorButton("picColor", "Colour", host, color);
+        d.finish([=, &result, &host, &color]() mutable {
+            RectangleDialogText t{square->isChecked(),    x->text().toStdString(), y->text().toStdString(),
+                                  w->text().toStdString(), h->text().toStdString(), filled->isChecked(),
+                                  width->value(),          color};
             return take(host, CheckRectangleDialog(t), result);
         });
     } else if (figure == 5) {
         const auto f = lastOr(last, RegularPolygonFigure{});
-        auto* sides = d.spin("cmbSides", "Sides", f.sides, 3, 100);
+        auto* sides = d.spin("OptSides", "Sides", f.sides, 3, 100);
         auto* x = d.box("txtX", "x (lower left)", num(f.x));
         auto* y = d.box("txtY", "y (lower left)", num(f.y));
         auto* w = d.box("txtWidth", "Width", num(f.width));
-        auto* filled = d.check("chkFilled", "Filled", f.filled);
-        d.finish([=, &result, &host]() mutable {
-            PolygonDialogText t{sides->value(),
-                                x->text().toStdString(),
-                                y->text().toStdString(),
-                                w->text().toStdString(),
-                                filled->isChecked(),
-                                1,
-                                Black};
+        auto* filled = d.check("optFilled", "Filled", f.filled);
+        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
+        color = f.color;
+        d.colorButton("picColor", "Colour", host, color);
+        d.finish([=, &result, &host, &color]() mutable {
+            PolygonDialogText t{sides->value(),          x->text().toStdString(), y->text().toStdString(),
+                                w->text().toStdString(), filled->isChecked(),     width->value(),
+                                color};
             return take(host, CheckPolygonDialog(t), result);
         });
     } else {
@@ -176,14 +227,13 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
         auto* x = d.box("txtX", "Centre x", num(f.x));
         auto* y = d.box("txtY", "Centre y", num(f.y));
         auto* r = d.box("txtRadius", "Radius", num(f.radius));
-        auto* filled = d.check("chkFilled", "Filled", f.filled);
-        d.finish([=, &result, &host]() mutable {
-            CircleDialogText t{x->text().toStdString(),
-                               y->text().toStdString(),
-                               r->text().toStdString(),
-                               filled->isChecked(),
-                               1,
-                               Black};
+        auto* filled = d.check("optFilled", "Filled", f.filled);
+        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
+        color = f.color;
+        d.colorButton("picColor", "Colour", host, color);
+        d.finish([=, &result, &host, &color]() mutable {
+            CircleDialogText t{x->text().toStdString(), y->text().toStdString(), r->text().toStdString(),
+                               filled->isChecked(),     width->value(),          color};
             return take(host, CheckCircleDialog(t), result);
         });
     }
