@@ -1,5 +1,7 @@
 #include "shell/figure_commands.h"
 
+#include <QApplication>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <memory>
@@ -77,6 +79,10 @@ void RegisterFigureCommands(MainWindow& frame) {
     }
     frame.setCommand("mnuEditPaste", [&frame, &s, &host, memory] {
         if (s.wb.DrawingActive) return;
+        if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
+            box->paste();
+            return;
+        }
         QMdiSubWindow* active = frame.mdiArea()->activeSubWindow();
         if (active && frame.fractalWindow() && active->widget() == frame.fractalWindow())
             PasteFractalFigure(s.wb, s.pics, host, memory->figs);

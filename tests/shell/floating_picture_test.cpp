@@ -144,3 +144,21 @@ TEST_F(FloatingPictureTest, AGeneralTriangleIsDrawnFromItsThreeCorners) {
 
 }  // namespace
 }  // namespace quillane::testing
+
+namespace quillane::testing {
+namespace {
+
+TEST_F(FloatingPictureTest, PasteIntoATextBoxPastesText) {
+    QApplication::clipboard()->setText("0.25");
+    auto* box = new QLineEdit(frame.get());
+    box->show();
+    box->setFocus();
+    QApplication::processEvents();
+    ASSERT_EQ(QApplication::focusWidget(), box);
+    frame->runCommand("mnuEditPaste");
+    EXPECT_EQ(box->text(), "0.25");
+    EXPECT_FALSE(pics().Floating.Visible);
+}
+
+}  // namespace
+}  // namespace quillane::testing
