@@ -9,7 +9,10 @@
 
 #include "core/menu_tree.h"
 #include "render/scale.h"
+#include "design/design_view.h"
 #include "shell/code_commands.h"
+#include "shell/design_commands.h"
+#include "shell/design_window.h"
 #include "shell/figure_commands.h"
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
@@ -73,6 +76,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterCodeCommands(*this);
     RegisterListAndFileCommands(*this);
     RegisterFigureCommands(*this);
+    RegisterDesignCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
@@ -112,6 +116,10 @@ void MainWindow::buildChildren() {
     fractal_ = new FractalWindow(state_, host_);
     children_[0] = mdi_->addSubWindow(functions_);
     children_[1] = mdi_->addSubWindow(fractal_);
+    design_ = new DesignForm(state_);
+    design_->runCommand = [this](const std::string& key) { runCommand(key); };
+    design_->afterCommand = [this] { refreshWindows(); };
+    children_[2] = mdi_->addSubWindow(design_);
     // A child's close box only hides it: the Window menu brings it back.
     for (QMdiSubWindow* child : children_) child->setAttribute(Qt::WA_DeleteOnClose, false);
     placeChildren();
@@ -124,8 +132,10 @@ void MainWindow::placeChildren() {
     const double scale = logicalDpiX() / static_cast<double>(TwipsPerInch);
     auto px = [scale](int twips) { return static_cast<int>(twips * scale + 0.5); };
     const int functionWidth = 10010, functionHeight = 7500, fractalWidth = 5200, fractalHeight = 6000;
+    const int designWidth = 5200, designHeight = 6000;
     children_[0]->setGeometry(0, 0, px(functionWidth), px(functionHeight));
     children_[1]->setGeometry(px(functionWidth), 0, px(fractalWidth), px(fractalHeight));
+    children_[2]->setGeometry(px(functionWidth), px(fractalHeight), px(designWidth), px(designHeight));
 }
 
 void MainWindow::registerFrameCommands() {
@@ -214,6 +224,8 @@ void MainWindow::refreshWindows() {
     setWindowTitle(QString::fromStdString(state_.wb.FrameCaption));
     functions_->refresh();
     fractal_->refresh();
+    RedrawDesignIfChanged(state_.wb, state_.design);
+    design_->refresh();
 }
 
 QMdiSubWindow* MainWindow::childWindow(int index) const {

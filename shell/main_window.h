@@ -23,6 +23,7 @@ namespace quillane {
 
 class FunctionsWindow;
 class FractalWindow;
+class DesignForm;
 
 // What the start takes from the process.
 struct FrameStart {
@@ -73,6 +74,7 @@ class MainWindow : public QMainWindow {
     QMdiSubWindow* childWindow(int index) const;
     FunctionsWindow* functionsWindow() const { return functions_; }
     FractalWindow* fractalWindow() const { return fractal_; }
+    DesignForm* designWindow() const { return design_; }
     void setStatusText(int panel, const QString& text);
     QString statusText(int panel) const;
 
@@ -114,7 +116,8 @@ class MainWindow : public QMainWindow {
     FrameToolbar* toolbar_ = nullptr;
     FunctionsWindow* functions_ = nullptr;
     FractalWindow* fractal_ = nullptr;
-    std::array<QMdiSubWindow*, 2> children_{};
+    DesignForm* design_ = nullptr;
+    std::array<QMdiSubWindow*, 3> children_{};
     std::vector<QLabel*> statusPanels_;
 };
 

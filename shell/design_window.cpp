@@ -1,0 +1,245 @@
+#include "shell/design_window.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <array>
+
+#include "core/numbers.h"
+#include "design/design_keys.h"
+#include "design/design_view.h"
+#include "design/polygon_commands.h"
+#include "render/fractal_view.h"
+
+namespace quillane {
+
+namespace {
+
+struct ToolButton {
+    const char* key;      // the button's key
+    const char* command;  // the menu command it runs
+};
+// Buttons 1..15 of Toolbar1.
+constexpr std::array<ToolButton, DesignToolbarButtons> ToolButtons{{
+    {"new", "mnuDesignNew"},
+    {"duplicate", "mnuDesignDuplicate"},
+    {"delete", "mnuDesignClear"},
+    {"horizontal", "mnuDesignFlipHor"},
+    {"vertical", "mnuDesignFlipVert"},
+    {"rotate left", "DesignRotateLeft"},
+    {"rotate right", "DesignRotateRight"},
+    {"polygon", "mnuDesignPoly"},
+    {"axes", "mnuDesignAxes"},
+    {"fixed points", "mnuDesignFP"},
+    {"grid", "mnuDesignGrid"},
+    {"lines", "DesignLineRing"},
+    {"zoom out", "mnuDesignZoom"},
+    {"zoom in", "mnuDesignZoomIn"},
+    {"help", "DesignHelp"},
+}};
+
+// US layout: Shift with a top-row digit gives these keys.
+constexpr const char* ShiftedDigits = ")!@#$%^&*(";
+
+}  // namespace
+
+void DesignPicture::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+    emit doubleClicked();
+}
+
+void DesignPicture::focusOutEvent(QFocusEvent* event) {
+    PictureWidget::focusOutEvent(event);
+    emit focusLost();
+}
+
+int DesignKeyCodeOf(int qtKey, Qt::KeyboardModifiers modifiers) {
+    const bool keypad = modifiers & Qt::KeypadModifier;
+    switch (qtKey) {
+        case Qt::Key_Left: return KeyLeft;
+        case Qt::Key_Up: return KeyUp;
+        case Qt::Key_Right: return KeyRight;
+        case Qt::Key_Down: return KeyDown;
+        case Qt::Key_PageUp: return KeyPageUp;
+        case Qt::Key_PageDown: return KeyPageDown;
+        case Qt::Key_Home: return KeyHome;
+        case Qt::Key_Escape: return KeyEscape27;
+        case Qt::Key_Shift: return KeyShift16;
+        case Qt::Key_Plus: return keypad ? KeyPadAdd : KeyPlusMain;
+        case Qt::Key_Equal: return KeyPlusMain;
+        case Qt::Key_Minus: return keypad ? KeyPadSubtract : KeyMinusMain;
+        default: break;
+    }
+    if (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z) return 'A' + (qtKey - Qt::Key_A);
+    if (qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) return '0' + (qtKey - Qt::Key_0);
+    for (int k = 0; k < 10; ++k)
+        if (qtKey == ShiftedDigits[k]) return '0' + k;
+    return 0;
+}
+
+DesignForm::DesignForm(AppState& state, QWidget* parent) : QWidget(parent), state_(state) {
+    setObjectName("frmDesign");
+    setFocusPolicy(Qt::StrongFocus);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(2, 2, 2, 2);
+    layout->setSpacing(2);
+    buildToolbar();
+    layout->addWidget(Toolbar1_);
+    pictureArea_ = new QWidget(this);
+    pictureArea_->setMinimumSize(60, 60);
+    pictureArea_->installEventFilter(this);
+    layout->addWidget(pictureArea_, 1);
+    picdesign_ = new DesignPicture(pictureArea_);
+    picdesign_->setObjectName("picdesign");
+    picdesign_->setCursor(Qt::CrossCursor);
+    auto* status = new QHBoxLayout;
+    picCoord_ = new QLabel(this);
+    picCoord_->setObjectName("picCoord");
+    picCoord_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    picTrans_ = new QLabel(this);
+    picTrans_->setObjectName("picTrans");
+    picTrans_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    picTrans_->setMinimumWidth(70);
+    picTrans_->setCursor(Qt::WhatsThisCursor);
+    picTrans_->installEventFilter(this);
+    status->addWidget(picCoord_, 1);
+    status->addWidget(picTrans_);
+    layout->addLayout(status);
+    helpCard_ = new QLabel(this);
+    helpCard_->setObjectName("frmShortcuts");
+    helpCard_->setWindowFlags(Qt::ToolTip);
+    QString card = "<table>";
+    for (int k = 0; k < static_cast<int>(DesignHelpCard.size()); ++k) {
+        card += QString("<tr><td><b>%1</b></td><td>%2</td></tr>")
+                    .arg(DesignHelpCard[static_cast<size_t>(k)].first)
+                    .arg(QString(DesignHelpCard[static_cast<size_t>(k)].second).toHtmlEscaped().replace(" ", "&nbsp;"));
+        if (k + 1 == HelpCardBlankAfter) card += "<tr><td>&nbsp;</td></tr>";
+    }
+    helpCard_->setText(card + "</table>");
+    connect(picdesign_, &PictureWidget::mouseMoved, this, [this](QPointF w, Qt::KeyboardModifiers) { onMouseMoved(w); });
+    connect(picdesign_, &PictureWidget::mouseReleased, this,
+            [this](QPointF w, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint) { onMouseReleased(w, b, m); });
+    connect(picdesign_, &PictureWidget::keyPressed, this, [this](QKeyEvent* e) { handleKey(e); });
+    connect(picdesign_, &DesignPicture::doubleClicked, this, &DesignForm::onDoubleClick);
+    connect(picdesign_, &DesignPicture::focusLost, this, &DesignForm::onFocusLost);
+    setWindowTitle(QString::fromStdString(state_.wb.DesignCaption));
+}
+
+void DesignForm::buildToolbar() {
+    Toolbar1_ = new QToolBar(this);
+    Toolbar1_->setObjectName("Toolbar1");
+    Toolbar1_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (int b = 1; b <= DesignToolbarButtons; ++b) {
+        const ToolButton& button = ToolButtons[static_cast<size_t>(b - 1)];
+        QAction* a = Toolbar1_->addAction(button.key);
+        a->setObjectName(QString::fromStdString(DesignToolbarKey(b)));
+        const std::string command = button.command;
+        connect(a, &QAction::triggered, this, [this, command] {
+            if (runCommand) runCommand(command);
+            if (picdesign_) picdesign_->setFocus();
+        });
+    }
+}
+
+void DesignForm::refresh() {
+    const Workbench& wb = state_.wb;
+    setWindowTitle(QString::fromStdString(wb.DesignCaption));
+    const DesignPictures& d = state_.design;
+    if (picdesign_->surface() != &d.picdesign || picdesign_->size() != QSize(d.picdesign.width(), d.picdesign.height()))
+        picdesign_->setSurface(&d.picdesign);
+    picdesign_->update();
+    picCoord_->setText(QString::fromStdString(d.picCoord));
+    picTrans_->setText(QString::fromStdString(d.picTrans));
+    for (QAction* a : Toolbar1_->actions())
+        a->setEnabled(wb.menu(a->objectName().toStdString()).enabled);
+}
+
+void DesignForm::changed() {
+    if (afterCommand)
+        afterCommand();
+    else
+        refresh();
+}
+
+void DesignForm::layoutPicture() {
+    const QSize area = pictureArea_->size();
+    if (area.width() < 1 || area.height() < 1) return;
+    const std::string size = ResizeDesignWin(state_.wb, state_.design, area.width(), area.height());
+    picdesign_->setSurface(&state_.design.picdesign);
+    if (onSizeChanged) onSizeChanged(size);
+    refresh();
+}
+
+bool DesignForm::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == pictureArea_ && event->type() == QEvent::Resize) layoutPicture();
+    if (watched == picTrans_ && !state_.design.Poly.PolygonMode) {
+        if (event->type() == QEvent::MouseButtonPress) showHelpCard(true);
+        if (event->type() == QEvent::MouseButtonRelease && !state_.design.PolygonClicked) showHelpCard(false);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void DesignForm::showHelpCard(bool show) {
+    if (!show) {
+        helpCard_->hide();
+        return;
+    }
+    helpCard_->adjustSize();
+    helpCard_->move(picTrans_->mapToGlobal(QPoint(0, 0)) - QPoint(helpCard_->width(), helpCard_->height()));
+    helpCard_->show();
+}
+
+void DesignForm::keyPressEvent(QKeyEvent* event) {
+    handleKey(event);
+}
+
+void DesignForm::handleKey(QKeyEvent* event) {
+    const int code = DesignKeyCodeOf(event->key(), event->modifiers());
+    int shift = 0;
+    if (event->modifiers() & Qt::ShiftModifier) shift |= ShiftMaskShift;
+    if (event->modifiers() & Qt::ControlModifier) shift |= ShiftMaskCtrl;
+    if (event->modifiers() & Qt::AltModifier) shift |= ShiftMaskAlt;
+    if (code == 0) return;
+    if (DesignKeyDown(state_.wb, state_.design, code, shift, event->isAutoRepeat())) changed();
+}
+
+void DesignForm::onMouseMoved(QPointF world) {
+    DesignPictures& d = state_.design;
+    d.picCoord = "(" + Format(world.x(), "0.000") + "," + Format(world.y(), "0.000") + ")" + d.HintText;
+    if (d.Poly.PolygonMode) {
+        const bool closes = PolygonModeMove(state_.wb, d, static_cast<float>(world.x()), static_cast<float>(world.y()));
+        picdesign_->setCursor(closes ? Qt::CrossCursor : Qt::ArrowCursor);
+    }
+    picCoord_->setText(QString::fromStdString(d.picCoord));
+    picdesign_->update();
+}
+
+void DesignForm::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    DesignPictures& d = state_.design;
+    if (button != Qt::LeftButton || !d.Poly.PolygonMode) return;
+    const bool snap = (modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier)) == Qt::ShiftModifier;
+    PolygonModeClick(state_.wb, d, static_cast<float>(world.x()), static_cast<float>(world.y()), snap);
+    if (!d.Poly.RubberBandActive || d.Poly.PolygonPointCount == 0) picdesign_->setCursor(Qt::CrossCursor);
+    changed();
+}
+
+void DesignForm::onDoubleClick() {
+    if (!state_.design.Poly.PolygonMode || !state_.design.Poly.RubberBandActive) return;
+    PolygonModeFinish(state_.wb, state_.design);
+    picdesign_->setCursor(Qt::CrossCursor);
+    changed();
+}
+
+void DesignForm::onFocusLost() {
+    if (!state_.design.Poly.PolygonMode) return;
+    PolygonModeFinish(state_.wb, state_.design);
+    picdesign_->setCursor(Qt::CrossCursor);
+    changed();
+}
+
+}  // namespace quillane

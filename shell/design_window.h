@@ -1,0 +1,75 @@
+#pragma once
+// frmDesign: the functions as images of the initial polygon in picdesign, its toolbar and the two
+// status boxes. The logic is in design/; this window forwards mouse and keys and shows the pictures.
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "shell/app_state.h"
+#include "shell/picture_widget.h"
+
+class QLabel;
+class QToolBar;
+class QAction;
+
+namespace quillane {
+
+// picdesign: a picture that also reports double clicks and the loss of the focus.
+class DesignPicture : public PictureWidget {
+    Q_OBJECT
+  public:
+    using PictureWidget::PictureWidget;
+  signals:
+    void doubleClicked();
+    void focusLost();
+
+  protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+class DesignForm : public QWidget {
+    Q_OBJECT
+  public:
+    DesignForm(AppState& state, QWidget* parent = nullptr);
+    // Shows the pictures, the caption, the status boxes and the toolbar as the state has them.
+    void refresh();
+    DesignPicture* picture() const { return picdesign_; }
+    QToolBar* toolbar() const { return Toolbar1_; }
+    QLabel* coordBox() const { return picCoord_; }
+    QLabel* transBox() const { return picTrans_; }
+    // Runs a command of the frame by its menu key (set by the frame).
+    std::function<void(const std::string&)> runCommand;
+    // Called after the window changed the state, to show it everywhere.
+    std::function<void()> afterCommand;
+    // Told the picture's "width x height" after each resize.
+    std::function<void(const std::string&)> onSizeChanged;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void buildToolbar();
+    void layoutPicture();
+    void changed();
+    void handleKey(QKeyEvent* event);
+    void onMouseMoved(QPointF world);
+    void onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    void onDoubleClick();
+    void onFocusLost();
+    void showHelpCard(bool show);
+
+    AppState& state_;
+    QToolBar* Toolbar1_ = nullptr;
+    DesignPicture* picdesign_ = nullptr;
+    QWidget* pictureArea_ = nullptr;
+    QLabel* picCoord_ = nullptr;
+    QLabel* picTrans_ = nullptr;
+    QLabel* helpCard_ = nullptr;
+};
+
+// The key code the design window's logic expects; shifted top-row digits count as their digit.
+int DesignKeyCodeOf(int qtKey, Qt::KeyboardModifiers modifiers);
+
+}  // namespace quillane
