@@ -119,6 +119,11 @@ class Workbench {
 
     Random Rng;
 
+    // Design commands and undo: what a change keeps for its redo and undo besides OriginalMap.
+    IFSFunction ResultMap;            // a..f of the selected map after the change
+    int16_t ClearedMap = -1;          // the function Clear took out, for Undo Clear
+    int16_t ReflectionDirection = 0;  // -1 horizontal, +1 vertical: the last reflection
+
     // The count of functions as the table's box says (how every drawing loop reads it).
     int mapsFromText() const;
 };
