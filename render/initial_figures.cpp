@@ -351,6 +351,14 @@ void DrawCircleFigure(RasterSurface& s, const CircleFigure& f) {
     s.circle(f.x, f.y, f.radius, f.color, f.filled);
 }
 
+RasterSurface PolygonPreview(const DesignPolygon& polygon, const PolygonOutlineFigure& f, int side) {
+    RasterSurface s(side, side, White);
+    const WorldWindow w = PolygonPreviewWindow(polygon);
+    s.setScale(w.xmin, w.ymax, w.xmax, w.ymin);
+    DrawInitialSet(s, polygon, f);
+    return s;
+}
+
 void DrawFigure(RasterSurface& s, const FigureParameters& figure, const DesignPolygon& InitialPolygon) {
     std::visit(
         [&](const auto& f) {

@@ -133,6 +133,10 @@ float PenWidthInWorld(const RasterSurface& surface, int widthPixels);
 // The figure's bounding box extended by w on every side.
 WorldWindow FigureFitWindow(const FigureParameters& figure, const DesignPolygon& InitialPolygon, float w);
 
+// frmPolygonDesign's picPolygon: the polygon drawn with the figure's pen on a white square of
+// `side` pixels, scaled by PolygonPreviewWindow.
+RasterSurface PolygonPreview(const DesignPolygon& polygon, const PolygonOutlineFigure& f, int side);
+
 // The drawings, with the figure's own pen width and colour; the surface's pen is left as it was.
 void DrawInitialSet(RasterSurface& s, const DesignPolygon& polygon, const PolygonOutlineFigure& f);
 // False when no path of the polygon can be filled; nothing is drawn then.

@@ -4,12 +4,16 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <functional>
 #include <map>
+
+#include "shell/surface_image.h"
 
 namespace quillane {
 
@@ -78,6 +82,7 @@ class FigureDialog : public QDialog {
         form_->addRow(label, b);
         return b;
     }
+    void addRow(QWidget* w) { form_->addRow(w); }
     QRadioButton* radio(const char* name, const QString& label, bool on) {
         auto* r = new QRadioButton(label, this);
         r->setObjectName(name);
@@ -125,9 +130,25 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
     Color color = Black, fill = Black;
     if (figure == 0) {
         auto f = lastOr(last, PolygonOutlineFigure{});
-        auto* width = d.spin("cmbWidth", "Line width", f.penWidth, 1, 20);
-        d.finish([=, &result, &host]() mutable {
+        // picPolygon: the initial polygon as it will be drawn, redrawn with every change of pen.
+        auto* preview = new QLabel(&d);
+        preview->setObjectName("picPolygon");
+        d.addRow(preview);
+        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
+        color = f.color;
+        auto* pick = d.colorButton("cmLineColor", "Line colour", host, color);
+        auto show = [preview, width, &color, &polygon] {
+            PolygonOutlineFigure g;
+            g.penWidth = width->value();
+            g.color = color;
+            preview->setPixmap(QPixmap::fromImage(ImageOfSurface(PolygonPreview(polygon, g, 160))));
+        };
+        show();
+        QObject::connect(width, &QSpinBox::valueChanged, preview, show);
+        QObject::connect(pick, &QPushButton::clicked, preview, show);
+        d.finish([=, &result, &color]() mutable {
             f.penWidth = width->value();
+            f.color = color;
             result = f;
             return true;
         });

@@ -473,6 +473,19 @@ TEST(PictureFigure, CancelIsSilentAndAnEmptyNameIsAnError) {
     EXPECT_EQ(host.shown(), (std::vector<ShownMessage>{{"Error", "Error selecting file."}}));
 }
 
+TEST(PolygonPreviewPicture, ShowsTheWholePolygonInTheFiguresPen) {
+    PolygonOutlineFigure f;
+    f.color = Red;
+    f.penWidth = 3;
+    const RasterSurface s = PolygonPreview(BuiltInPolygon(0), f, 100);
+    EXPECT_EQ(s.width(), 100);
+    EXPECT_EQ(s.point(0.5, 0), Red) << "the bottom side";
+    EXPECT_EQ(s.point(0.1, 0.5), Red) << "the mark behind the pen lift";
+    EXPECT_EQ(s.point(0.5, 0.5), White);
+    EXPECT_EQ(s.point(0.05, 0.45), White) << "no line across the pen lift";
+    EXPECT_GT(countOf(s, Red), 4 * 60 * 3);
+}
+
 TEST(PlacedPicture, ScalingToFitKeepsItsPixelPosition) {
     RasterSurface stamp(10, 6, Red);
     stamp.clear();
