@@ -126,6 +126,38 @@ class Workbench {
 
     // The count of functions as the table's box says (how every drawing loop reads it).
     int mapsFromText() const;
+
+    // Chaos game design. The paths start from one reference point; gestures and recipe changes keep
+    // what undo needs here, and the commands refresh the "Chaos Game Moves" window through ScaleCG.
+    struct RefPoint {
+        float x = 0, y = 0;
+        int16_t shown = 0;  // 16-bit flag, copied with the point as one block
+        bool operator==(const RefPoint&) const = default;
+    };
+    struct CGPoint {
+        float x = 0, y = 0;
+        bool operator==(const CGPoint&) const = default;
+    };
+    RefPoint ReferencePoint, OldReferencePoint, NewReferencePoint;
+    CGPoint OriginalFP, ResultFP;
+    std::array<std::string, 5> OriginalSteps, ResultSteps;  // 1..4
+    bool CGBusy = false;
+    bool MoveRefPending = false;
+    bool CGDragging = false;   // a fixed point follows the mouse
+    bool FPMoved = false;      // and has moved during this drag
+    bool CGKeyMoving = false;  // arrow keys move the selected fixed point; OriginalFP is kept
+    struct ScaleCGControls {
+        bool Loaded = false, Showing = false;
+        int cmbFP = 0;
+        std::array<bool, 5> chkStep{};          // 1..4: S, R, H, V
+        std::array<std::string, 5> txtStep;    // 1..4
+        int BoldStep = 0;                       // the box marked for a swap, 0 when none
+        int sliScale = 0, sliRotate = 0;
+        std::string txtS, txtRotate;
+        bool ScaleEnabled = false, RotateEnabled = false;
+        bool Changed = false;
+        bool RotateFocus = false;
+    } ScaleCG;
 };
 
 // The save test of every command that replaces CurrentIFS.

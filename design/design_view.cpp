@@ -4,6 +4,8 @@
 
 #include "core/numbers.h"
 #include "core/table_editing.h"
+#include "design/chaos_design.h"
+#include "design/chaos_drawing.h"
 #include "design/design_drawing.h"
 #include "design/polygon_commands.h"
 #include "render/fractal_view.h"
@@ -36,6 +38,10 @@ void extend(float& lo, float& hi, float v) {
 void RedrawDesignView(Workbench& wb, DesignPictures& d) {
     if (d.Poly.PolygonMode) {
         RedrawPolygonMode(wb, d);
+        return;
+    }
+    if (wb.DesignMode == 1) {
+        RedrawCGDesign(wb, d);
         return;
     }
     DrawDesign(wb, d, false);
@@ -110,6 +116,7 @@ WorldWindow DesignWinScale(Workbench& wb, DesignPictures& d) {
         ymax += 0.05f;
         ymin -= 0.05f;
     }
+    if (wb.DesignMode == 1) CGDesignScale(wb, xmax, xmin, ymax, ymin);
     makeSquare(xmin, xmax, ymin, ymax);
     const float w = xmax - xmin, h = ymax - ymin;
     return {xmin - 0.05f * w, xmax + 0.05f * w, ymin - 0.05f * h, ymax + 0.05f * h};

@@ -5,6 +5,7 @@
 #include "core/function_table.h"
 #include "core/numbers.h"
 #include "core/table_editing.h"
+#include "design/chaos_design.h"
 #include "design/gesture_math.h"
 #include "design/map_transforms.h"
 #include "design/polygon_image.h"
@@ -69,14 +70,17 @@ void FlipPoly(Workbench& wb, int Direction) {
 }
 
 void mnuDesignFlipHor_Click(Workbench& wb) {
+    if (wb.DesignMode == 1 && !wb.DrawingActive) return ReflectCGDesign(wb, "H");
     FlipPoly(wb, -1);
 }
 
 void mnuDesignFlipVert_Click(Workbench& wb) {
+    if (wb.DesignMode == 1 && !wb.DrawingActive) return ReflectCGDesign(wb, "V");
     FlipPoly(wb, 1);
 }
 
 void RotateIFSDesign(Workbench& wb, double angle) {
+    if (wb.DesignMode == 1 && !wb.DrawingActive) return RotateCGDesign(wb, angle);
     if (!canAct(wb)) return;
     const int i = wb.SelectedMap;
     const IFSFunction before = wb.CurrentIFS.function(i);

@@ -3,6 +3,7 @@
 #include "core/chaos_game.h"
 #include "core/function_forms.h"
 #include "core/function_table.h"
+#include "design/chaos_design.h"
 #include "design/design_drawing.h"
 
 namespace quillane {
@@ -93,18 +94,21 @@ void ClearMap(Workbench& wb, Host& host, int k) {
 }
 
 void mnuDesignNew_Click(Workbench& wb, Host& host) {
+    if (wb.DesignMode == 1) return CGDesignNew(wb, host);
     if (!idle(wb)) return;
     NewDesignPoly(wb, host, true);
     CommitCommand(wb, UndoNewCaption);
 }
 
 void mnuDesignDuplicate_Click(Workbench& wb, Host& host) {
+    if (wb.DesignMode == 1) return CGDesignDuplicate(wb, host);
     if (!idle(wb) || !wb.MapSelected) return;
     DuplicateMap(wb, host, true);
     CommitCommand(wb, UndoDuplicateCaption);
 }
 
 void mnuDesignClear_Click(Workbench& wb, Host& host) {
+    if (wb.DesignMode == 1) return CGDesignClear(wb, host);
     if (!idle(wb) || !wb.MapSelected || wb.CurrentIFS.nMaps <= 1) return;
     ClearMap(wb, host, wb.SelectedMap);
     CommitCommand(wb, UndoClearCaption);

@@ -6,6 +6,8 @@
 #include "core/function_forms.h"
 #include "core/function_table.h"
 #include "core/numbers.h"
+#include "core/chaos_game.h"
+#include "design/chaos_design.h"
 #include "design/design_drawing.h"
 #include "design/map_transforms.h"
 #include "design/transform_commands.h"
@@ -113,8 +115,82 @@ UndoResult undoZoom(Workbench& wb, Host& host, FractalPictures& pics, const Desi
     return {UndoKind::Zoom, {}};
 }
 
-// The chaos game rows attach here; until then their captions find nothing to do.
-UndoResult undoChaosGame(Workbench&, Host&, const std::string&) {
+// One row of the chaos game: what a click puts back. The caller redraws picCGDesign.
+UndoResult undoChaosGame(Workbench& wb, Host& host, const std::string& caption) {
+    IFSEntry& ifs = wb.CurrentIFS;
+    const int i = wb.SelectedMap;
+    auto is = [&](const char* c) { return caption == ToLower(c); };
+    auto currentSteps = [&] {
+        std::array<std::string, 5> steps;
+        for (int k = 1; k <= 4; ++k) steps[k] = ifs.Step[k][i];
+        return steps;
+    };
+    auto moveTo = [&](const Workbench::CGPoint& p) {
+        ifs.FPx[i] = p.x;
+        ifs.FPy[i] = p.y;
+        CGMatrix(wb, i);
+        WriteTableRow(wb, i);
+    };
+    auto next = [&](const char* c, int count, UndoKind kind) -> UndoResult {
+        SetUndoCaption(wb, c);
+        OfferUndo(wb);
+        wb.ChangeCount = static_cast<int16_t>(wb.ChangeCount + count);
+        AddAsterickToName(wb);
+        return {kind, {}};
+    };
+    if (is(UndoMoveCaption)) moveTo(wb.OriginalFP);
+    if (is(UndoMoveCaption)) return next(RedoMoveCaption, -1, UndoKind::Map);
+    if (is(RedoMoveCaption)) moveTo(wb.ResultFP);
+    if (is(RedoMoveCaption)) return next(UndoMoveCaption, +1, UndoKind::Map);
+    for (const auto& [undo, redo] : {std::pair{UndoReflectionCaption, RedoReflectionCaption},
+                                     std::pair{UndoRotationCaption, RedoRotationCaption}}) {
+        if (is(undo)) {
+            RestoreSteps(wb, wb.OriginalSteps, wb.OriginalMap.e, wb.OriginalMap.f);
+            return next(redo, -1, UndoKind::Map);
+        }
+        if (is(redo)) {
+            RestoreSteps(wb, wb.ResultSteps, wb.ResultMap.e, wb.ResultMap.f);
+            return next(undo, +1, UndoKind::Map);
+        }
+    }
+    if (is(UndoScaleCaption)) {
+        RestoreSteps(wb, currentSteps(), wb.OriginalMap.e, wb.OriginalMap.f);
+        return next(RedoScaleCaption, -1, UndoKind::Map);
+    }
+    if (is(RedoScaleCaption)) {
+        RestoreSteps(wb, currentSteps(), wb.ResultMap.e, wb.ResultMap.f);
+        return next(UndoScaleCaption, +1, UndoKind::Map);
+    }
+    if (is(UndoNewCaption) || is(UndoDuplicateCaption)) {
+        CGClearMap(wb, host, ifs.nMaps - 1);
+        if (ifs.nMaps == 1) {
+            wb.Menu.setEnabled("mnuDesignClear", false);
+            wb.Menu.setEnabled(DesignToolbarKey(3), false);
+        }
+        return next(is(UndoNewCaption) ? RedoNewCaption : RedoDuplicateCaption, -1, UndoKind::Functions);
+    }
+    if (is(RedoNewCaption)) {
+        newCGFixedPoint(wb, host, false, 20000, 20000);
+        return next(UndoNewCaption, +1, UndoKind::Functions);
+    }
+    if (is(RedoDuplicateCaption)) {
+        CGDuplicateMap(wb, host);
+        return next(UndoDuplicateCaption, +1, UndoKind::Functions);
+    }
+    if (is(UndoClearCaption)) {
+        --wb.ChangeCount;
+        CGUndoClear(wb, host);
+        AddAsterickToName(wb);
+        ResetUndoMenu(wb);
+        return {UndoKind::Functions, {}};
+    }
+    const bool back = is(UndoMoveReferenceCaption);
+    if (back || is(RedoMoveReferenceCaption)) {
+        wb.ReferencePoint = back ? wb.OldReferencePoint : wb.NewReferencePoint;
+        SetUndoCaption(wb, back ? RedoMoveReferenceCaption : UndoMoveReferenceCaption);
+        OfferUndo(wb);
+        return {UndoKind::Functions, {}};
+    }
     return {};
 }
 

@@ -7,6 +7,7 @@
 #include "core/file_commands.h"
 #include "core/function_forms.h"
 #include "core/list_commands.h"
+#include "design/design_view.h"
 #include "render/list_entry_commands.h"
 #include "render/table_commands.h"
 #include "shell/functions_window.h"
@@ -42,14 +43,17 @@ void RegisterListAndFileCommands(MainWindow& frame) {
     Host& host = frame.host();
     // The entries take the IFS (with its view); the items above the separator edit the list.
     frame.setArrayCommand("mnuNames", [&frame, &s, &host](int index) {
-        if (index >= 5)
-            mnuNamesEntry_Click(s.wb, s.pics, host, index);
-        else if (index != 4)
+        if (index >= 5) {
+            if (mnuNamesEntry_Click(s.wb, s.pics, host, index)) DesignScale(s.wb, s.design);
+        } else if (index != 4) {
             mnuNames_Click(s.wb, host, frame.dialogs().list, index);
+        }
     });
     frame.setCommand("mnuNewIFS", [&s, &host] { mnuNewIFS_Click(s.wb, s.pics, host); });
     frame.setCommand("mnuOpen", [&s, &host] {
-        if (mnuOpen_Click(s.wb, host)) ShowTakenIFS(s.wb, s.pics, host);
+        if (!mnuOpen_Click(s.wb, host)) return;
+        ShowTakenIFS(s.wb, s.pics, host);
+        DesignScale(s.wb, s.design);
     });
     frame.setCommand("mnuFileAppend", [&s, &host] { mnuFileAppend_Click(s.wb, host); });
     frame.setCommand("mnuSaveIFS", [&s, &host] { mnuSaveIFS_Click(s.wb, host); });

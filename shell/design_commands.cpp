@@ -7,8 +7,13 @@
 #include "design/design_drawing.h"
 #include "design/design_view.h"
 #include "design/polygon_commands.h"
+#include "design/transform_commands.h"
+#include "design/transform_count_commands.h"
+#include "design/undo.h"
 #include "shell/design_window.h"
+#include "shell/functions_window.h"
 #include "shell/main_window.h"
+#include "shell/transform_dialogs_qt.h"
 
 namespace quillane {
 
@@ -62,11 +67,63 @@ void registerViewCommands(MainWindow& frame) {
     frame.setArrayCommand("MnuDesignShiftDir", [&s](int i) { MnuDesignShiftDir_Click(s.wb, s.design, i); });
 }
 
+// The commands that change the selected map or the number of maps. The frame redraws the design
+// after each, with the selection.
+void registerTransformCommands(MainWindow& frame) {
+    AppState& s = frame.state();
+    Host& host = frame.host();
+    frame.setCommand("mnuDesignNew", [&s, &host] { mnuDesignNew_Click(s.wb, host); });
+    frame.setCommand("mnuDesignDuplicate", [&s, &host] { mnuDesignDuplicate_Click(s.wb, host); });
+    frame.setCommand("mnuDesignClear", [&s, &host] { mnuDesignClear_Click(s.wb, host); });
+    frame.setCommand("mnuDesignFlipHor", [&s] { mnuDesignFlipHor_Click(s.wb); });
+    frame.setCommand("mnuDesignFlipVert", [&s] { mnuDesignFlipVert_Click(s.wb); });
+    frame.setCommand("DesignRotateLeft", [&s] { RotateIFSDesign(s.wb, 90); });
+    frame.setCommand("DesignRotateRight", [&s] { RotateIFSDesign(s.wb, -90); });
+    frame.setCommand("mnuDesignRotate", [&frame, &s, &host] {
+        if (!s.wb.MapSelected || s.wb.DrawingActive) return;
+        if (const auto angle = AskRotationAngle(host, &frame)) RotateIFSDesign(s.wb, *angle);
+    });
+    frame.setCommand("mnuDesignScale", [&frame, &s, &host] {
+        if (!s.wb.MapSelected || s.wb.DrawingActive) return;
+        if (const auto percent = AskScalePercent(host, &frame)) ScaleDesignMap(s.wb, host, *percent);
+    });
+    frame.setCommand("mnuDesignStretch", [&frame, &s, &host] {
+        if (!s.wb.MapSelected || s.wb.DrawingActive || s.wb.DesignMode != 0) return;
+        if (const auto values = AskStretchShear(host, &frame)) StretchShearMap(s.wb, *values);
+    });
+    frame.setCommand("mnuDesignSwap", [&frame, &s] {
+        if (s.wb.DrawingActive) return;
+        RunSwapDialog(s.wb, [&frame] { frame.refreshWindows(); }, &frame);
+    });
+}
+
+// Undo of both windows: the design's rows, and the zoom of whichever window zoomed last.
+void registerUndo(MainWindow& frame) {
+    AppState& s = frame.state();
+    Host& host = frame.host();
+    frame.setCommand("mnuUndo", [&frame, &s, &host] {
+        DesignHooks hooks;
+        hooks.DesignScale = [&s] { DesignScale(s.wb, s.design); };
+        hooks.UndoDesignZoom = [&s] {
+            s.wb.DesignWindow = s.design.DesignUndoWindow;
+            WriteDesignText(s.wb);
+            ScaleDesignWindows(s.wb, s.design);
+            RedrawDesignView(s.wb, s.design);
+        };
+        const UndoResult r = mnuUndo_Click(s.wb, host, s.pics, hooks);
+        if (r.kind == UndoKind::TextEntry && r.box && frame.functionsWindow())
+            frame.functionsWindow()->selectBox(r.box->column, r.box->row);
+        if (r.kind == UndoKind::Map || r.kind == UndoKind::Functions) RedrawDesignView(s.wb, s.design);
+    });
+}
+
 }  // namespace
 
 void RegisterDesignCommands(MainWindow& frame) {
     registerPolygonCommands(frame);
     registerViewCommands(frame);
+    registerTransformCommands(frame);
+    registerUndo(frame);
 }
 
 }  // namespace quillane

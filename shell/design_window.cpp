@@ -6,6 +6,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <array>
@@ -46,6 +49,27 @@ constexpr std::array<ToolButton, DesignToolbarButtons> ToolButtons{{
 // US layout: Shift with a top-row digit gives these keys.
 constexpr const char* ShiftedDigits = ")!@#$%^&*(";
 
+// The rotation cursor: an open circle with an arrowhead, drawn once.
+QCursor rotationCursor() {
+    static const QCursor cursor = [] {
+        QPixmap pixmap(24, 24);
+        pixmap.fill(Qt::transparent);
+        QPainter p(&pixmap);
+        p.setRenderHint(QPainter::Antialiasing);
+        for (const auto& [colour, width] : {std::pair{Qt::white, 4.0}, std::pair{Qt::black, 2.0}}) {
+            p.setPen(QPen(colour, width));
+            p.drawArc(QRectF(4, 4, 16, 16), 60 * 16, 300 * 16);
+            QPainterPath head;
+            head.moveTo(16, 1);
+            head.lineTo(21, 6);
+            head.lineTo(14, 8);
+            p.drawPath(head);
+        }
+        return QCursor(pixmap, 12, 12);
+    }();
+    return cursor;
+}
+
 }  // namespace
 
 void DesignPicture::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -70,6 +94,8 @@ int DesignKeyCodeOf(int qtKey, Qt::KeyboardModifiers modifiers) {
         case Qt::Key_Home: return KeyHome;
         case Qt::Key_Escape: return KeyEscape27;
         case Qt::Key_Shift: return KeyShift16;
+        case Qt::Key_Control: return KeyCtrl17;
+        case Qt::Key_Alt: return KeyAlt18;
         case Qt::Key_Plus: return keypad ? KeyPadAdd : KeyPlusMain;
         case Qt::Key_Equal: return KeyPlusMain;
         case Qt::Key_Minus: return keypad ? KeyPadSubtract : KeyMinusMain;
@@ -80,6 +106,14 @@ int DesignKeyCodeOf(int qtKey, Qt::KeyboardModifiers modifiers) {
     for (int k = 0; k < 10; ++k)
         if (qtKey == ShiftedDigits[k]) return '0' + k;
     return 0;
+}
+
+int DesignShiftOf(Qt::KeyboardModifiers modifiers) {
+    int shift = 0;
+    if (modifiers & Qt::ShiftModifier) shift |= ShiftMaskShift;
+    if (modifiers & Qt::ControlModifier) shift |= ShiftMaskCtrl;
+    if (modifiers & Qt::AltModifier) shift |= ShiftMaskAlt;
+    return shift;
 }
 
 DesignForm::DesignForm(AppState& state, QWidget* parent) : QWidget(parent), state_(state) {
@@ -121,7 +155,8 @@ DesignForm::DesignForm(AppState& state, QWidget* parent) : QWidget(parent), stat
         if (k + 1 == HelpCardBlankAfter) card += "<tr><td>&nbsp;</td></tr>";
     }
     helpCard_->setText(card + "</table>");
-    connect(picdesign_, &PictureWidget::mouseMoved, this, [this](QPointF w, Qt::KeyboardModifiers) { onMouseMoved(w); });
+    connect(picdesign_, &PictureWidget::mousePressed, this, &DesignForm::onMousePressed);
+    connect(picdesign_, &PictureWidget::mouseMoved, this, &DesignForm::onMouseMoved);
     connect(picdesign_, &PictureWidget::mouseReleased, this,
             [this](QPointF w, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint) { onMouseReleased(w, b, m); });
     connect(picdesign_, &PictureWidget::keyPressed, this, [this](QKeyEvent* e) { handleKey(e); });
@@ -157,6 +192,7 @@ void DesignForm::refresh() {
     picTrans_->setText(QString::fromStdString(d.picTrans));
     for (QAction* a : Toolbar1_->actions())
         a->setEnabled(wb.menu(a->objectName().toStdString()).enabled);
+    if (onRefresh) onRefresh();
 }
 
 void DesignForm::changed() {
@@ -200,20 +236,71 @@ void DesignForm::keyPressEvent(QKeyEvent* event) {
 
 void DesignForm::handleKey(QKeyEvent* event) {
     const int code = DesignKeyCodeOf(event->key(), event->modifiers());
-    int shift = 0;
-    if (event->modifiers() & Qt::ShiftModifier) shift |= ShiftMaskShift;
-    if (event->modifiers() & Qt::ControlModifier) shift |= ShiftMaskCtrl;
-    if (event->modifiers() & Qt::AltModifier) shift |= ShiftMaskAlt;
+    const int shift = DesignShiftOf(event->modifiers());
     if (code == 0) return;
-    if (DesignKeyDown(state_.wb, state_.design, code, shift, event->isAutoRepeat())) changed();
+    if (code == KeyCtrl17 && !event->isAutoRepeat()) {
+        if (const auto cursor = CtrlCursor(state_.wb, state_.design, gesture_, true)) setDesignCursor(*cursor);
+    }
+    if (DesignKeyDown(state_.wb, state_.design, code, shift, event->isAutoRepeat()) ||
+        GestureKeyDown(state_.wb, state_.design, gesture_, code, shift))
+        changed();
 }
 
-void DesignForm::onMouseMoved(QPointF world) {
+void DesignForm::keyReleaseEvent(QKeyEvent* event) {
+    const int code = DesignKeyCodeOf(event->key(), event->modifiers());
+    if (event->isAutoRepeat() || code == 0) return;
+    // The released modifier may still be reported as held.
+    int shift = DesignShiftOf(event->modifiers());
+    if (code == KeyShift16) shift &= ~ShiftMaskShift;
+    if (code == KeyCtrl17) shift &= ~ShiftMaskCtrl;
+    if (code == KeyAlt18) shift &= ~ShiftMaskAlt;
+    if (code == KeyCtrl17) {
+        if (const auto cursor = CtrlCursor(state_.wb, state_.design, gesture_, false)) setDesignCursor(*cursor);
+    }
+    if (GestureKeyUp(state_.wb, state_.design, gesture_, code, shift)) changed();
+}
+
+void DesignForm::setDesignCursor(DesignCursor cursor) {
+    switch (cursor) {
+        case DesignCursor::Normal: picdesign_->setCursor(Qt::CrossCursor); break;
+        case DesignCursor::Move: picdesign_->setCursor(Qt::SizeAllCursor); break;
+        case DesignCursor::SizeNESW: picdesign_->setCursor(Qt::SizeBDiagCursor); break;
+        case DesignCursor::SizeNWSE: picdesign_->setCursor(Qt::SizeFDiagCursor); break;
+        case DesignCursor::SizeVertical: picdesign_->setCursor(Qt::SizeVerCursor); break;
+        case DesignCursor::SizeHorizontal: picdesign_->setCursor(Qt::SizeHorCursor); break;
+        case DesignCursor::Rotate: picdesign_->setCursor(rotationCursor()); break;
+    }
+}
+
+namespace {
+// IFS mode outside polygon drawing: the gestures of the selection.
+bool gesturesApply(const AppState& s) {
+    return s.wb.DesignMode == 0 && !s.design.Poly.PolygonMode;
+}
+}  // namespace
+
+void DesignForm::onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    if (button != Qt::LeftButton || !gesturesApply(state_)) return;
+    setDesignCursor(DesignMouseDown(state_.wb, state_.design, gesture_, static_cast<float>(world.x()),
+                                    static_cast<float>(world.y()), DesignShiftOf(modifiers)));
+    changed();
+}
+
+void DesignForm::onMouseMoved(QPointF world, Qt::KeyboardModifiers modifiers) {
     DesignPictures& d = state_.design;
-    d.picCoord = "(" + Format(world.x(), "0.000") + "," + Format(world.y(), "0.000") + ")" + d.HintText;
+    const float x = static_cast<float>(world.x()), y = static_cast<float>(world.y());
+    const bool wasGesture = gesture_.MouseIsDown && state_.wb.MapSelected;
+    const DesignCursor cursor =
+        DesignMouseMove(state_.wb, d, gesture_, x, y, DesignShiftOf(modifiers), gesture_.MouseIsDown);
     if (d.Poly.PolygonMode) {
-        const bool closes = PolygonModeMove(state_.wb, d, static_cast<float>(world.x()), static_cast<float>(world.y()));
+        const bool closes = PolygonModeMove(state_.wb, d, x, y);
         picdesign_->setCursor(closes ? Qt::CrossCursor : Qt::ArrowCursor);
+    } else if (gesturesApply(state_)) {
+        setDesignCursor(cursor);
+    }
+    if (wasGesture && gesturesApply(state_)) {
+        changed();
+        return;
     }
     picCoord_->setText(QString::fromStdString(d.picCoord));
     picdesign_->update();
@@ -221,7 +308,14 @@ void DesignForm::onMouseMoved(QPointF world) {
 
 void DesignForm::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
     DesignPictures& d = state_.design;
-    if (button != Qt::LeftButton || !d.Poly.PolygonMode) return;
+    if (button != Qt::LeftButton) return;
+    if (gesturesApply(state_)) {
+        setDesignCursor(DesignMouseUp(state_.wb, d, gesture_));
+        changed();
+        return;
+    }
+    gesture_.MouseIsDown = false;
+    if (!d.Poly.PolygonMode) return;
     const bool snap = (modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier)) == Qt::ShiftModifier;
     PolygonModeClick(state_.wb, d, static_cast<float>(world.x()), static_cast<float>(world.y()), snap);
     if (!d.Poly.RubberBandActive || d.Poly.PolygonPointCount == 0) picdesign_->setCursor(Qt::CrossCursor);

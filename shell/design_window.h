@@ -5,6 +5,7 @@
 #include <functional>
 #include <string>
 
+#include "design/design_gestures.h"
 #include "shell/app_state.h"
 #include "shell/picture_widget.h"
 
@@ -44,9 +45,12 @@ class DesignForm : public QWidget {
     std::function<void()> afterCommand;
     // Told the picture's "width x height" after each resize.
     std::function<void(const std::string&)> onSizeChanged;
+    // Runs at the end of refresh, for the chaos game picture that lies over picdesign.
+    std::function<void()> onRefresh;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -54,7 +58,9 @@ class DesignForm : public QWidget {
     void layoutPicture();
     void changed();
     void handleKey(QKeyEvent* event);
-    void onMouseMoved(QPointF world);
+    void onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    void onMouseMoved(QPointF world, Qt::KeyboardModifiers modifiers);
+    void setDesignCursor(DesignCursor cursor);
     void onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void onDoubleClick();
     void onFocusLost();
@@ -67,9 +73,12 @@ class DesignForm : public QWidget {
     QLabel* picCoord_ = nullptr;
     QLabel* picTrans_ = nullptr;
     QLabel* helpCard_ = nullptr;
+    DesignGesture gesture_;
 };
 
 // The key code the design window's logic expects; shifted top-row digits count as their digit.
 int DesignKeyCodeOf(int qtKey, Qt::KeyboardModifiers modifiers);
+// The Shift mask of the design logic (1 Shift, 2 Ctrl, 4 Alt).
+int DesignShiftOf(Qt::KeyboardModifiers modifiers);
 
 }  // namespace quillane

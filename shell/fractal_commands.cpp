@@ -89,15 +89,6 @@ void registerView(MainWindow& frame) {
     for (int i = 0; i < 4; ++i)
         frame.setCommand("mnuDrawShiftDir(" + std::to_string(i) + ")",
                          [&s, &host, i] { ShiftDrawWin(s.wb, s.pics, host, keys[i]); });
-    frame.setCommand("mnuUndo", [&frame, &s, &host] {
-        const std::string caption = s.wb.menu("mnuUndo").caption;
-        if (caption == UndoZoomCaption) {
-            UndoZoom(s.wb, s.pics, host);
-        } else if (caption == UndoTextEntryCaption) {
-            const auto box = UndoTextEntry(s.wb);
-            if (box && frame.functionsWindow()) frame.functionsWindow()->selectBox(box->column, box->row);
-        }
-    });
     frame.setCommand("mnuDrawSetImageSize", [&frame, &s, &host] {
         FractalWindow* fractal = frame.fractalWindow();
         ImageSizeDialog dialog(host, s.pics.picfractal.width(), screenPixelsPerInch(&frame), &frame);

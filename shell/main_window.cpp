@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QLocale>
+#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 
@@ -11,6 +12,8 @@
 #include "render/scale.h"
 #include "design/design_view.h"
 #include "shell/code_commands.h"
+#include "shell/chaos_commands.h"
+#include "shell/chaos_design_area.h"
 #include "shell/design_commands.h"
 #include "shell/design_window.h"
 #include "shell/figure_commands.h"
@@ -77,6 +80,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterListAndFileCommands(*this);
     RegisterFigureCommands(*this);
     RegisterDesignCommands(*this);
+    RegisterChaosCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
@@ -119,6 +123,9 @@ void MainWindow::buildChildren() {
     design_ = new DesignForm(state_);
     design_->runCommand = [this](const std::string& key) { runCommand(key); };
     design_->afterCommand = [this] { refreshWindows(); };
+    AttachChaosDesignArea(*design_, state_, host_)->popup = [this](QPoint at) {
+        if (QMenu* m = menu("mnuDesign")) m->popup(at);
+    };
     children_[2] = mdi_->addSubWindow(design_);
     // A child's close box only hides it: the Window menu brings it back.
     for (QMdiSubWindow* child : children_) child->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -156,7 +163,10 @@ void MainWindow::registerFrameCommands() {
 void MainWindow::start() {
     StartHooks hooks;
     hooks.settings = settingsHooks_;
-    hooks.setscale = [this] { setscale(state_.wb, host_); };
+    hooks.setscale = [this] {
+        setscale(state_.wb, host_);
+        DesignScale(state_.wb, state_.design);
+    };
     hooks.showWindows = [this] {
         for (QMdiSubWindow* child : children_) child->show();
         refreshWindows();

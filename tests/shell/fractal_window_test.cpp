@@ -170,7 +170,9 @@ TEST_F(FractalWindowTest, TheFunctionTableShowsTheRowsSwatchesAndWindow) {
     EXPECT_FALSE(table.row(1)[7]->isVisibleTo(&table));  // fixed points only in the fixed point form
     EXPECT_EQ(table.findChild<QLabel*>("lblProbSum")->text().toStdString(), "1.000");
     EXPECT_TRUE(table.picColor(0)->styleSheet().contains("rgb(255,0,0)"));
-    EXPECT_EQ(table.findChild<QLineEdit*>("txtDesign(0)")->text().toStdString(), "1.100");
+    // The start fits the design window to the entry and its polygon (no longer the default 1.100).
+    EXPECT_EQ(table.findChild<QLineEdit*>("txtDesign(0)")->text().toStdString(), "1.050");
+    EXPECT_EQ(table.findChild<QLineEdit*>("txtDesign(0)")->text().toStdString(), wb().txtDesign[0]);
     EXPECT_EQ(table.findChild<QLineEdit*>("txtWin(3)")->text().toStdString(), wb().txtWin[3]);
 }
 

@@ -1,0 +1,115 @@
+#include <QApplication>
+#include <QCheckBox>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "shell/chaos_design_area.h"
+#include "shell/chaos_moves_dialog.h"
+#include "shell/design_window.h"
+#include "shell/main_window.h"
+#include "tests/shell/frame_fixture.h"
+
+namespace quillane::testing {
+namespace {
+
+class ChaosDesignWindow : public FrameTest {
+  protected:
+    void SetUp() override {
+        dir.write("default.ifs", GoodBlock + OtherBlock);
+        open();
+        QApplication::processEvents();
+        frame->runCommand("mnuNewChaosGame");
+        QApplication::processEvents();
+    }
+    DesignForm& form() { return *frame->designWindow(); }
+    DesignPictures& design() { return frame->state().design; }
+    ChaosDesignArea* area() { return form().findChild<ChaosDesignArea*>("picCGDesign"); }
+    QPoint pixelOf(double x, double y) {
+        int64_t col = 0, row = 0;
+        EXPECT_TRUE(design().picCGDesign.toPixel(x, y, col, row));
+        return QPoint(static_cast<int>(col), static_cast<int>(row));
+    }
+    void drag(double x0, double y0, double x1, double y1, Qt::KeyboardModifiers m = Qt::NoModifier) {
+        QTest::mousePress(area(), Qt::LeftButton, m, pixelOf(x0, y0));
+        const QPointF to = pixelOf(x1, y1);
+        QMouseEvent event(QEvent::MouseMove, to, area()->mapToGlobal(to), Qt::LeftButton, Qt::LeftButton, m);
+        QApplication::sendEvent(area(), &event);
+        QTest::mouseRelease(area(), Qt::LeftButton, m, pixelOf(x1, y1));
+    }
+};
+
+TEST_F(ChaosDesignWindow, NewChaosGameShowsThePictureOfFixedPoints) {
+    ASSERT_NE(area(), nullptr);
+    EXPECT_TRUE(area()->isVisible());
+    EXPECT_FALSE(form().picture()->isVisible());
+    EXPECT_EQ(form().windowTitle().toStdString(), "Design (Chaos Game)");
+    EXPECT_EQ(wb().CurrentIFS.nMaps, 1);
+    const Workbench::RefPoint ref = wb().ReferencePoint;
+    EXPECT_EQ(design().picCGDesign.point(ref.x, ref.y), Black);
+    EXPECT_EQ(design().picCGDesign.point(0, 0), wb().FunctionColor[0]);
+    EXPECT_EQ(item("mnuSaveIFSas")->text().toStdString(), "Save Chaso Game Fractals List &As...");
+}
+
+TEST_F(ChaosDesignWindow, CtrlClickAddsAFixedPointAndDraggingMovesIt) {
+    QTest::mouseClick(area(), Qt::LeftButton, Qt::ControlModifier, pixelOf(0.8, 0.2));
+    ASSERT_EQ(wb().CurrentIFS.nMaps, 2);
+    EXPECT_NEAR(wb().CurrentIFS.FPx[1], 0.8, 0.01);
+    drag(wb().CurrentIFS.FPx[1], wb().CurrentIFS.FPy[1], 0.7, 0.3);
+    EXPECT_NEAR(wb().CurrentIFS.FPx[1], 0.7, 0.01);
+    EXPECT_EQ(wb().menu("mnuUndo").caption, "&Undo Move");
+    EXPECT_EQ(wb().Table.text(8, 1).substr(0, 3), "0.7");
+}
+
+TEST_F(ChaosDesignWindow, DraggingTheReferencePointMovesThePaths) {
+    const Workbench::RefPoint ref = wb().ReferencePoint;
+    drag(ref.x, ref.y, 0.9, 0.9);
+    EXPECT_NEAR(wb().ReferencePoint.x, 0.9, 0.01);
+    EXPECT_EQ(design().picCGDesign.point(wb().ReferencePoint.x, wb().ReferencePoint.y), Black);
+    EXPECT_EQ(wb().menu("mnuUndo").caption, "&Undo Move Reference Point");
+    frame->runCommand("mnuUndo");
+    EXPECT_FLOAT_EQ(wb().ReferencePoint.x, ref.x);
+    EXPECT_EQ(design().picCGDesign.point(ref.x, ref.y), Black);
+}
+
+TEST_F(ChaosDesignWindow, BackToIFSShowsPicdesignAgain) {
+    frame->runCommand("mnuMatrix");
+    QApplication::processEvents();
+    EXPECT_EQ(wb().DesignMode, 0);
+    EXPECT_FALSE(area()->isVisible());
+    EXPECT_TRUE(form().picture()->isVisible());
+}
+
+TEST_F(ChaosDesignWindow, MovesWindowBuildsTheRecipe) {
+    std::string title;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = frame->findChild<ChaosMovesDialog*>("frmScaleCG");
+        ASSERT_NE(dialog, nullptr);
+        title = dialog->windowTitle().toStdString();
+        dialog->findChild<QCheckBox*>("chkStep(2)")->click();
+        dialog->findChild<QPushButton*>("cmdOk")->click();
+    });
+    frame->runCommand("mnuDesignCGMoves");
+    EXPECT_EQ(title, "Chaos Game Moves");
+    EXPECT_EQ(wb().CurrentIFS.Step[2][0], "R");
+    EXPECT_EQ(wb().Table.text(2, 0), "R");
+    EXPECT_EQ(wb().ChangeCount, 1);
+    EXPECT_FALSE(wb().Table.Locked);
+}
+
+TEST_F(ChaosDesignWindow, MovesWindowCancelPutsTheRecipeBack) {
+    QTimer::singleShot(0, [&] {
+        auto* dialog = frame->findChild<ChaosMovesDialog*>("frmScaleCG");
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QCheckBox*>("chkStep(4)")->click();
+        EXPECT_EQ(wb().CurrentIFS.Step[2][0], "V");
+        dialog->findChild<QPushButton*>("cmdCancel")->click();
+    });
+    frame->runCommand("mnuDesignCGMoves");
+    EXPECT_EQ(wb().CurrentIFS.Step[2][0], "");
+    EXPECT_EQ(wb().ChangeCount, 0);
+}
+
+}  // namespace
+}  // namespace quillane::testing
