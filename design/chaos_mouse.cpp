@@ -67,29 +67,12 @@ void deselect(Workbench& wb, DesignPictures& d) {
 
 // Selection by digits, as in IFS mode: 1..9, or two digits each with Shift.
 bool digitKey(Workbench& wb, DesignPictures& d, int KeyCode, int Shift) {
-    const bool digit = KeyCode >= '0' && KeyCode <= '9';
-    if (Shift == ShiftMaskShift && KeyCode != KeyShift16 && !digit) d.StoredTensSet = false;
-    if (!digit) return false;
-    const int n = KeyCode - '0';
-    int chosen = 0;
-    if (Shift == 0) {
-        chosen = n >= 1 && n <= std::min<int>(wb.CurrentIFS.nMaps, 9) ? n : 0;
-    } else if (Shift == ShiftMaskShift) {
-        if (!d.StoredTensSet) {
-            d.StoredTens = n;
-            d.StoredTensSet = true;
-            return true;
-        }
-        d.StoredTensSet = false;
-        const int two = d.StoredTens * 10 + n;
-        chosen = two >= 1 && two <= wb.CurrentIFS.nMaps ? two : 0;
-    } else {
-        return false;
-    }
-    if (chosen > 0) {
-        if (chosen - 1 != wb.SelectedMap) ResetUndoMenu(wb);
+    const std::optional<int> chosen = DigitSelection(wb.CurrentIFS.nMaps, d, KeyCode, Shift);
+    if (!chosen) return false;
+    if (*chosen > 0) {
+        if (*chosen - 1 != wb.SelectedMap) ResetUndoMenu(wb);
         AdjustDesignMenu(wb, true);
-        DrawSelectedCGFixedPoint(wb, d, chosen - 1);
+        DrawSelectedCGFixedPoint(wb, d, *chosen - 1);
         if (wb.ScaleCG.Showing) SetFPSettings(wb, false);
     }
     return true;

@@ -1,5 +1,7 @@
 #include "design/design_keys.h"
 
+#include <optional>
+
 #include <algorithm>
 
 #include "design/design_drawing.h"
@@ -87,30 +89,30 @@ void DeselectDesign(Workbench& wb, DesignPictures& d) {
     AdjustDesignMenu(wb, false);
 }
 
-bool DesignDigitKey(Workbench& wb, DesignPictures& d, int KeyCode, int Shift) {
+std::optional<int> DigitSelection(int nMaps, DesignPictures& d, int KeyCode, int Shift) {
     const bool digit = KeyCode >= '0' && KeyCode <= '9';
     if (Shift == ShiftMaskShift && KeyCode != KeyShift16 && !digit) {
         d.StoredTensSet = false;
-        return false;
+        return std::nullopt;
     }
-    if (!digit) return false;
+    if (!digit) return std::nullopt;
     const int n = KeyCode - '0';
-    int chosen = 0;
-    if (Shift == 0) {
-        chosen = n >= 1 && n <= std::min<int>(wb.CurrentIFS.nMaps, 9) ? n : 0;
-    } else if (Shift == ShiftMaskShift) {
-        if (!d.StoredTensSet) {
-            d.StoredTens = n;
-            d.StoredTensSet = true;
-            return true;
-        }
-        d.StoredTensSet = false;
-        const int two = d.StoredTens * 10 + n;
-        chosen = two >= 1 && two <= wb.CurrentIFS.nMaps ? two : 0;
-    } else {
-        return false;
+    if (Shift == 0) return n >= 1 && n <= std::min(nMaps, 9) ? n : 0;
+    if (Shift != ShiftMaskShift) return std::nullopt;
+    if (!d.StoredTensSet) {
+        d.StoredTens = n;
+        d.StoredTensSet = true;
+        return 0;
     }
-    if (chosen > 0) DrawSelectedIFS(wb, d, chosen - 1, false);
+    d.StoredTensSet = false;
+    const int two = d.StoredTens * 10 + n;
+    return two >= 1 && two <= nMaps ? two : 0;
+}
+
+bool DesignDigitKey(Workbench& wb, DesignPictures& d, int KeyCode, int Shift) {
+    const std::optional<int> chosen = DigitSelection(wb.CurrentIFS.nMaps, d, KeyCode, Shift);
+    if (!chosen) return false;
+    if (*chosen > 0) DrawSelectedIFS(wb, d, *chosen - 1, false);
     return true;
 }
 

@@ -2,6 +2,7 @@
 // The design window's own keys: view, grid, toggles, selection by number, polygon mode letters,
 // and the help card of picTrans.
 #include <array>
+#include <optional>
 #include <utility>
 
 #include "core/workbench.h"
@@ -45,6 +46,10 @@ bool DesignKeyDown(Workbench& wb, DesignPictures& d, int KeyCode, int Shift, boo
 
 // "+" (Up true) and "-": the grid ring 0.05, 0.1, 0.125, 0.25, or the larger / smaller of two sizes.
 void StepDesignGrid(Workbench& wb, bool Up);
+// The map a digit key selects, counted from 1: 1..9 alone, or two digits each with Shift (the first
+// only stores the tens). 0 when the key was a digit that selects nothing yet; nothing when it is no
+// selection key.
+std::optional<int> DigitSelection(int nMaps, DesignPictures& d, int KeyCode, int Shift);
 // A digit key: 1..9 alone, or two digits each with Shift.
 bool DesignDigitKey(Workbench& wb, DesignPictures& d, int KeyCode, int Shift);
 // Esc with a function selected: nothing selected any more.
