@@ -7,6 +7,7 @@
 
 #include "fractal_view_fixture.h"
 #include "render/image_file.h"
+#include "tests/core/list_file_fixture.h"
 
 namespace quillane {
 namespace {
@@ -206,7 +207,8 @@ TEST_F(Floating, PasteBackgroundNeedsABitmapAndNoDrawing) {
 }
 
 TEST_F(Floating, LoadBackgroundPictureOffersItsFiltersAndFloatsTheFile) {
-    const std::string path = (std::filesystem::temp_directory_path() / "quillane_bg_test.png").string();
+    testing::TempDir dir;
+    const std::string path = dir.path("background.png");
     std::string error;
     ASSERT_TRUE(SaveImageFile(halves(12, 6), path, error)) << error;
     host.fileNames.push_back(path);
@@ -217,7 +219,6 @@ TEST_F(Floating, LoadBackgroundPictureOffersItsFiltersAndFloatsTheFile) {
     EXPECT_TRUE(pics.Floating.Visible);
     EXPECT_EQ(pics.Floating.Width, 12);
     EXPECT_EQ(countOf(pics.picPaste, Red), 36);
-    std::filesystem::remove(path);
 }
 
 TEST_F(Floating, LoadBackgroundPictureCancelledOrUnreadableChangesNothing) {

@@ -7,15 +7,12 @@
 
 #include "core/scripted_host.h"
 #include "render/image_file.h"
+#include "tests/core/list_file_fixture.h"
 
 namespace quillane {
 namespace {
 
-std::string scratch(const std::string& name) {
-    const auto dir = std::filesystem::temp_directory_path() / "quillane-picture-commands";
-    std::filesystem::create_directories(dir);
-    return (dir / name).string();
-}
+using testing::TempDir;
 
 RasterSurface marked() {
     RasterSurface p(12, 8, White);
@@ -52,9 +49,10 @@ TEST(SaveFractal, TheDialogHasTheTitleAndTheFourFiltersInOrder) {
 }
 
 TEST(SaveFractal, EachFilterWritesItsFormatAndTheBitmapReadsBackExactly) {
+    TempDir dir;
     for (int filter = 1; filter <= 4; ++filter) {
         ScriptedHost host;
-        const std::string base = scratch("picture" + std::to_string(filter));
+        const std::string base = dir.path("picture" + std::to_string(filter));
         host.fileNames.push_back(base);
         host.filters.push_back(filter);
         ASSERT_TRUE(SavePictureCommand(marked(), host, SaveFractalTitle)) << filter;
@@ -70,13 +68,13 @@ TEST(SaveFractal, EachFilterWritesItsFormatAndTheBitmapReadsBackExactly) {
             EXPECT_EQ(back.pixel(11, 7), RGB(0, 0, 255));
             EXPECT_EQ(back.pixel(5, 5), White);
         }
-        std::filesystem::remove(path);
     }
 }
 
 TEST(SaveFractal, AFailedWriteSaysImageSaveFailed) {
+    TempDir dir;
     ScriptedHost host;
-    host.fileNames.push_back(scratch("no-such-folder/inside/picture"));
+    host.fileNames.push_back(dir.path("no-such-folder/inside/picture"));
     host.filters.push_back(4);
     EXPECT_FALSE(SavePictureCommand(marked(), host, SaveImageTitle));
     EXPECT_EQ(host.shown(), (std::vector<ShownMessage>{{"Error", "Image save failed"}}));

@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "fractal_view_fixture.h"
+#include "tests/core/list_file_fixture.h"
 #include "render/deterministic.h"
 #include "render/floating_picture.h"
 #include "render/image_file.h"
@@ -31,7 +32,8 @@ int countOf(const RasterSurface& s, Color c) {
 
 struct PictureFigures : ::testing::Test, ViewBench {
     InitialFigures figs;
-    std::string path = (std::filesystem::temp_directory_path() / "quillane_figure_test.png").string();
+    testing::TempDir dir;
+    std::string path = dir.path("figure.png");
 
     PictureFigures() : ViewBench(SierpinskiTriangleIFS(), UnitView, 100) {
         wb.Menu.setChecked(MenuTable::key("mnuDrawDetColorItems", 0), true);
@@ -40,7 +42,6 @@ struct PictureFigures : ::testing::Test, ViewBench {
         std::string error;
         EXPECT_TRUE(SaveImageFile(solid(100, 100, Red), path, error)) << error;
     }
-    ~PictureFigures() override { std::filesystem::remove(path); }
 
     void chooseFile() {
         host.fileNames.push_back(path);
@@ -177,9 +178,8 @@ TEST_F(PictureFigures, ScaleToFitKeepsThePlacedPicturesPixels) {
 }
 
 TEST(DefaultPicture, TheFirstOfJpgGifPngBmpThatExists) {
-    const std::filesystem::path dir = std::filesystem::temp_directory_path() / "quillane_default_pictures";
-    std::filesystem::remove_all(dir);
-    std::filesystem::create_directories(dir);
+    testing::TempDir temp;
+    const std::filesystem::path dir = temp.path("");
     EXPECT_EQ(DefaultPictureFile(dir.string()), "");
     std::string error;
     ASSERT_TRUE(SaveImageFile(solid(4, 4, Blue), (dir / "default.png").string(), error));
@@ -192,7 +192,6 @@ TEST(DefaultPicture, TheFirstOfJpgGifPngBmpThatExists) {
     EXPECT_EQ(picture.pixel(1, 1), Blue);
     EXPECT_FALSE(LoadCSImageFile(dir.string(), "jpg", picture));
     EXPECT_EQ(picture.pixel(1, 1), Blue) << "a failed load leaves the picture";
-    std::filesystem::remove_all(dir);
 }
 
 }  // namespace
