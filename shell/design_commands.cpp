@@ -5,6 +5,7 @@
 #include <QMdiSubWindow>
 
 #include "design/design_drawing.h"
+#include "design/design_toolbar.h"
 #include "design/design_view.h"
 #include "design/polygon_commands.h"
 #include "design/transform_commands.h"
@@ -30,6 +31,14 @@ void showDesignWindow(MainWindow& frame) {
     }
     form->show();
     form->picture()->setFocus();
+}
+
+// frmRotate, or frmRotateCG in chaos game mode, with `direction` preset; OK rotates the selection.
+void askAndRotate(MainWindow& frame, Workbench& wb, Host& host, int direction) {
+    if (!ToolbarCanRotate(wb)) return;
+    const auto angle = wb.DesignMode == 1 ? AskCGRotationAngle(host, &frame, direction)
+                                          : AskRotationAngle(host, &frame, direction);
+    if (angle) ToolbarRotate(wb, *angle);
 }
 
 void registerPolygonCommands(MainWindow& frame) {
@@ -77,13 +86,26 @@ void registerTransformCommands(MainWindow& frame) {
     frame.setCommand("mnuDesignClear", [&s, &host] { mnuDesignClear_Click(s.wb, host); });
     frame.setCommand("mnuDesignFlipHor", [&s] { mnuDesignFlipHor_Click(s.wb); });
     frame.setCommand("mnuDesignFlipVert", [&s] { mnuDesignFlipVert_Click(s.wb); });
-    frame.setCommand("DesignRotateLeft", [&s] { RotateIFSDesign(s.wb, 90); });
-    frame.setCommand("DesignRotateRight", [&s] { RotateIFSDesign(s.wb, -90); });
+    frame.setCommand("DesignRotateLeft", [&s] { ToolbarRotate(s.wb, 90); });
+    frame.setCommand("DesignRotateRight", [&s] { ToolbarRotate(s.wb, -90); });
+    // In chaos game mode Scale and Rotate are the moves window's business.
     frame.setCommand("mnuDesignRotate", [&frame, &s, &host] {
-        if (!s.wb.MapSelected || s.wb.DrawingActive) return;
-        if (const auto angle = AskRotationAngle(host, &frame)) RotateIFSDesign(s.wb, *angle);
+        if (s.wb.DesignMode == 1)
+            frame.runCommand("mnuDesignCGMoves");
+        else
+            askAndRotate(frame, s.wb, host, 0);
     });
+    // The drop-down items of the rotate buttons: the fixed angles, then "Other" with that side preset.
+    for (const bool left : {true, false})
+        frame.setArrayCommand(left ? "DesignRotateLeftItem" : "DesignRotateRightItem",
+                              [&frame, &s, &host, left](int item) {
+                                  if (item < RotateItemCount)
+                                      ToolbarRotate(s.wb, RotateItemAngle(item, left));
+                                  else
+                                      askAndRotate(frame, s.wb, host, left ? 0 : 1);
+                              });
     frame.setCommand("mnuDesignScale", [&frame, &s, &host] {
+        if (s.wb.DesignMode == 1) return frame.runCommand("mnuDesignCGMoves");
         if (!s.wb.MapSelected || s.wb.DrawingActive) return;
         if (const auto percent = AskScalePercent(host, &frame)) ScaleDesignMap(s.wb, host, *percent);
     });
@@ -104,6 +126,7 @@ void registerUndo(MainWindow& frame) {
     frame.setCommand("mnuUndo", [&frame, &s, &host] {
         DesignHooks hooks;
         hooks.DesignScale = [&s] { DesignScale(s.wb, s.design); };
+        hooks.ZoomDesignOut = [&s] { DesignWinZoom(s.wb, s.design, 1); };
         hooks.UndoDesignZoom = [&s] {
             s.wb.DesignWindow = s.design.DesignUndoWindow;
             WriteDesignText(s.wb);

@@ -5,11 +5,13 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <array>
 
@@ -158,7 +160,7 @@ DesignForm::DesignForm(AppState& state, QWidget* parent) : QWidget(parent), stat
     connect(picdesign_, &PictureWidget::mousePressed, this, &DesignForm::onMousePressed);
     connect(picdesign_, &PictureWidget::mouseMoved, this, &DesignForm::onMouseMoved);
     connect(picdesign_, &PictureWidget::mouseReleased, this,
-            [this](QPointF w, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint) { onMouseReleased(w, b, m); });
+            [this](QPointF w, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint g) { onMouseReleased(w, b, m, g); });
     connect(picdesign_, &PictureWidget::keyPressed, this, [this](QKeyEvent* e) { handleKey(e); });
     connect(picdesign_, &DesignPicture::doubleClicked, this, &DesignForm::onDoubleClick);
     connect(picdesign_, &DesignPicture::focusLost, this, &DesignForm::onFocusLost);
@@ -178,7 +180,29 @@ void DesignForm::buildToolbar() {
             if (runCommand) runCommand(command);
             if (picdesign_) picdesign_->setFocus();
         });
+        if (button.key == std::string("lines")) addDropDown(a, "mnuDesignLine", LineDropItems());
+        if (button.key == std::string("rotate left")) addDropDown(a, "DesignRotateLeftItem", RotateDropItems(true));
+        if (button.key == std::string("rotate right"))
+            addDropDown(a, "DesignRotateRightItem", RotateDropItems(false));
     }
+}
+
+// Item k of the drop-down runs the array command `command`(k); the button keeps its own click.
+void DesignForm::addDropDown(QAction* button, const std::string& command, const std::vector<ToolbarDropItem>& items) {
+    auto* menu = new QMenu(this);
+    menu->setObjectName(button->text());
+    for (size_t k = 0; k < items.size(); ++k) {
+        QAction* item = menu->addAction(QString::fromStdString(items[k].caption));
+        item->setObjectName(QString::fromStdString(items[k].key));
+        const std::string key = command + "(" + std::to_string(k) + ")";
+        connect(item, &QAction::triggered, this, [this, key] {
+            if (runCommand) runCommand(key);
+            if (picdesign_) picdesign_->setFocus();
+        });
+    }
+    button->setMenu(menu);
+    if (auto* tool = qobject_cast<QToolButton*>(Toolbar1_->widgetForAction(button)))
+        tool->setPopupMode(QToolButton::MenuButtonPopup);
 }
 
 void DesignForm::refresh() {
@@ -306,8 +330,14 @@ void DesignForm::onMouseMoved(QPointF world, Qt::KeyboardModifiers modifiers) {
     picdesign_->update();
 }
 
-void DesignForm::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+void DesignForm::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
+                                 QPoint global) {
     DesignPictures& d = state_.design;
+    // Not while drawing the polygon, whose menus are off, nor in the middle of a left-button drag.
+    if (button == Qt::RightButton && gesturesApply(state_) && !gesture_.MouseIsDown) {
+        if (popup) popup(global);
+        return;
+    }
     if (button != Qt::LeftButton) return;
     if (gesturesApply(state_)) {
         setDesignCursor(DesignMouseUp(state_.wb, d, gesture_));

@@ -4,8 +4,10 @@
 #include <QWidget>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "design/design_gestures.h"
+#include "design/design_toolbar.h"
 #include "shell/app_state.h"
 #include "shell/picture_widget.h"
 
@@ -47,6 +49,8 @@ class DesignForm : public QWidget {
     std::function<void(const std::string&)> onSizeChanged;
     // Runs at the end of refresh, for the chaos game picture that lies over picdesign.
     std::function<void()> onRefresh;
+    // Shows the mnuDesign pop-up at a screen position: a right button release on picdesign.
+    std::function<void(QPoint globalPos)> popup;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -55,13 +59,14 @@ class DesignForm : public QWidget {
 
   private:
     void buildToolbar();
+    void addDropDown(QAction* button, const std::string& command, const std::vector<ToolbarDropItem>& items);
     void layoutPicture();
     void changed();
     void handleKey(QKeyEvent* event);
     void onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void onMouseMoved(QPointF world, Qt::KeyboardModifiers modifiers);
     void setDesignCursor(DesignCursor cursor);
-    void onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    void onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint global);
     void onDoubleClick();
     void onFocusLost();
     void showHelpCard(bool show);

@@ -96,6 +96,13 @@ MainWindow::~MainWindow() {
     if (ownHost_) ownHost_->onYield = nullptr;
     // The child windows hold the state and the host: they go first.
     if (functions_) functions_->detach();
+    // A focus leaving the design picture while the children go must not reach the frame.
+    if (design_) {
+        design_->afterCommand = nullptr;
+        design_->runCommand = nullptr;
+        design_->onSizeChanged = nullptr;
+        design_->popup = nullptr;
+    }
     delete mdi_;
     mdi_ = nullptr;
 }
@@ -123,6 +130,15 @@ void MainWindow::buildChildren() {
     design_ = new DesignForm(state_);
     design_->runCommand = [this](const std::string& key) { runCommand(key); };
     design_->afterCommand = [this] { refreshWindows(); };
+    design_->popup = [this](QPoint at) {
+        if (QMenu* m = menu("mnuDesign")) m->popup(at);
+    };
+    // The frame's size box tells the design area's size when the person resizes that window; the
+    // layout of the start leaves it to the fractal picture.
+    design_->onSizeChanged = [this](const std::string& size) {
+        if (children_[2] && mdi_->activeSubWindow() == children_[2])
+            toolbar_->txtFractalSize()->setText(QString::fromStdString(size));
+    };
     AttachChaosDesignArea(*design_, state_, host_)->popup = [this](QPoint at) {
         if (QMenu* m = menu("mnuDesign")) m->popup(at);
     };

@@ -92,10 +92,13 @@ std::optional<float> AskScalePercent(Host& host, QWidget* parent) {
     return value;
 }
 
-std::optional<double> AskRotationAngle(Host& host, QWidget* parent, int direction) {
+namespace {
+
+// frmRotate and frmRotateCG differ only in name and title.
+std::optional<double> askRotation(Host& host, QWidget* parent, int direction, const char* name, const char* title) {
     std::optional<double> value;
     TransformDialog dialog(
-        host, "frmRotate", "Rotate", {{"txtRotate", "Angle (degrees)", "90"}},
+        host, name, title, {{"txtRotate", "Angle (degrees)", "90"}},
         {"Counterclockwise", "Clockwise"},
         [&value](const std::vector<std::string>& t, int option) {
             return verdict(CheckRotateDialog(t[0], option), value);
@@ -104,6 +107,16 @@ std::optional<double> AskRotationAngle(Host& host, QWidget* parent, int directio
     dialog.option(direction == 1 ? 1 : 0)->setChecked(true);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return value;
+}
+
+}  // namespace
+
+std::optional<double> AskRotationAngle(Host& host, QWidget* parent, int direction) {
+    return askRotation(host, parent, direction, "frmRotate", "Rotate");
+}
+
+std::optional<double> AskCGRotationAngle(Host& host, QWidget* parent, int direction) {
+    return askRotation(host, parent, direction, "frmRotateCG", RotateCGTitle);
 }
 
 std::optional<SkewValues> AskStretchShear(Host& host, QWidget* parent) {

@@ -1,6 +1,7 @@
 #pragma once
-// The small modal dialogs of the design commands: frmScale, frmRotate, frmSkew and frmSwap. Their
-// checks are in design/transform_dialogs and design/transform_swap; these only show boxes.
+// The small modal dialogs of the design commands: frmScale, frmRotate, frmRotateCG, frmSkew and
+// frmSwap. Their checks are in design/transform_dialogs and design/transform_swap; these only show
+// boxes.
 #include <QDialog>
 #include <functional>
 #include <optional>
@@ -48,6 +49,9 @@ class TransformDialog : public QDialog {
 std::optional<float> AskScalePercent(Host& host, QWidget* parent);
 // `direction` 0 or 1 preselects optDirection; the angle comes back negated for 1.
 std::optional<double> AskRotationAngle(Host& host, QWidget* parent, int direction = 0);
+// frmRotateCG: the same for a chaos game function.
+inline constexpr const char* RotateCGTitle = "Chaos Game Rotation";
+std::optional<double> AskCGRotationAngle(Host& host, QWidget* parent, int direction = 0);
 std::optional<SkewValues> AskStretchShear(Host& host, QWidget* parent);
 
 // frmSwap, modal; `redraw` shows each swap at once.

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
 
 #include "shell/chaos_design_area.h"
 #include "shell/chaos_moves_dialog.h"
@@ -109,6 +110,66 @@ TEST_F(ChaosDesignWindow, MovesWindowCancelPutsTheRecipeBack) {
     frame->runCommand("mnuDesignCGMoves");
     EXPECT_EQ(wb().CurrentIFS.Step[2][0], "");
     EXPECT_EQ(wb().ChangeCount, 0);
+}
+
+TEST_F(ChaosDesignWindow, ScaleAndRotateOpenTheMovesWindowInChaosGameMode) {
+    for (const char* command : {"mnuDesignScale", "mnuDesignRotate"}) {
+        std::string title;
+        QTimer::singleShot(0, [&] {
+            auto* dialog = frame->findChild<ChaosMovesDialog*>("frmScaleCG");
+            ASSERT_NE(dialog, nullptr);
+            title = dialog->windowTitle().toStdString();
+            dialog->findChild<QPushButton*>("cmdCancel")->click();
+        });
+        frame->runCommand(command);
+        EXPECT_EQ(title, "Chaos Game Moves") << command;
+    }
+    EXPECT_EQ(wb().ChangeCount, 0);
+}
+
+TEST_F(ChaosDesignWindow, AChaosGameFileMakesTheRoundTripThroughTheWindows) {
+    const std::string in = dir.write("pair.chg", "Pair {\nS 0.5 0 0.5 0 0\nS 0.5 0 0.5 1 0\n}\n");
+    host.fileNames.push_back(in);
+    frame->runCommand("mnuOpen");
+    QApplication::processEvents();
+    ASSERT_EQ(wb().CurrentIFS.nMaps, 2);
+    EXPECT_EQ(wb().DesignMode, 1);
+    EXPECT_TRUE(area()->isVisible());
+    EXPECT_EQ(wb().Table.text(8, 1), "1.000");
+    EXPECT_EQ(design().picCGDesign.point(1, 0), wb().FunctionColor[1]);
+
+    // Move the second point by the mouse and give it a turn in the moves window.
+    drag(1, 0, 0.75, 0.25);
+    EXPECT_NEAR(wb().CurrentIFS.FPx[1], 0.75, 0.01);
+    QTimer::singleShot(0, [&] {
+        auto* dialog = frame->findChild<ChaosMovesDialog*>("frmScaleCG");
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QCheckBox*>("chkStep(2)")->click();
+        dialog->findChild<QPushButton*>("cmdOk")->click();
+    });
+    frame->runCommand("mnuDesignCGMoves");
+    ASSERT_EQ(wb().CurrentIFS.Step[2][1], "R");
+    const IFSEntry edited = wb().CurrentIFS;
+
+    const std::string out = dir.path("edited.chg");
+    host.fileNames.push_back(out);
+    frame->runCommand("mnuSaveCurrent");
+    ASSERT_TRUE(std::filesystem::exists(out));
+    EXPECT_EQ(wb().ChangeCount, 0);
+
+    host.fileNames.push_back(out);
+    frame->runCommand("mnuOpen");
+    QApplication::processEvents();
+    const IFSEntry& back = wb().CurrentIFS;
+    ASSERT_EQ(back.nMaps, 2);
+    EXPECT_EQ(back.Step[1][1], "S");
+    EXPECT_EQ(back.Step[2][1], "R");
+    // The file keeps six decimals.
+    EXPECT_NEAR(back.FPx[1], edited.FPx[1], 1e-6);
+    EXPECT_NEAR(back.FPy[1], edited.FPy[1], 1e-6);
+    EXPECT_FLOAT_EQ(back.Scale[1], 0.5f);
+    EXPECT_EQ(wb().Table.text(2, 1), "R");
+    EXPECT_EQ(design().picCGDesign.point(back.FPx[1], back.FPy[1]), wb().FunctionColor[1]);
 }
 
 }  // namespace

@@ -64,6 +64,18 @@ TEST_F(DesignWindowTest, TheCloseBoxOnlyHidesTheWindow) {
     EXPECT_TRUE(sub->isVisible());
 }
 
+TEST_F(DesignWindowTest, AResizeKeepsTheWindowAndShowsTheAreaSizeInTheFrame) {
+    const WorldWindow before = frame->state().wb.DesignWindow;
+    QMdiSubWindow* sub = frame->childWindow(2);
+    frame->mdiArea()->setActiveSubWindow(sub);
+    sub->resize(sub->width() + 37, sub->height() + 23);
+    QApplication::processEvents();
+    const RasterSurface& p = design().picdesign;
+    EXPECT_EQ(frame->toolbar()->txtFractalSize()->text(), QString("%1 x %2").arg(p.width()).arg(p.height()));
+    EXPECT_EQ(form().picture()->size(), QSize(p.width(), p.height()));
+    EXPECT_EQ(frame->state().wb.DesignWindow, before);
+}
+
 TEST_F(DesignWindowTest, PolygonModeDrivenByRealMouseEventsAndKeys) {
     frame->runCommand("mnuDrawPoly");
     ASSERT_TRUE(design().Poly.PolygonMode);
