@@ -21,12 +21,7 @@ IFSFunction IFSEntry::function(int i) const {
 }
 
 void IFSEntry::setFunction(int i, const IFSFunction& fn) {
-    a[i] = fn.a;
-    b[i] = fn.b;
-    c[i] = fn.c;
-    d[i] = fn.d;
-    e[i] = fn.e;
-    f[i] = fn.f;
+    StoreCoefficients(*this, i, fn);
     p[i] = fn.p;
     for (int k = 1; k <= 4; ++k) Step[k][i] = fn.Step[k];
     Scale[i] = fn.Scale;
@@ -34,6 +29,24 @@ void IFSEntry::setFunction(int i, const IFSFunction& fn) {
     Prob[i] = fn.Prob;
     FPx[i] = fn.FPx;
     FPy[i] = fn.FPy;
+}
+
+void CopyCoefficients(IFSFunction& to, const IFSFunction& from) {
+    to.a = from.a;
+    to.b = from.b;
+    to.c = from.c;
+    to.d = from.d;
+    to.e = from.e;
+    to.f = from.f;
+}
+
+void StoreCoefficients(IFSEntry& ifs, int i, const IFSFunction& m) {
+    ifs.a[i] = m.a;
+    ifs.b[i] = m.b;
+    ifs.c[i] = m.c;
+    ifs.d[i] = m.d;
+    ifs.e[i] = m.e;
+    ifs.f[i] = m.f;
 }
 
 void InitializeIFS(IFSEntry& ifs) {

@@ -45,6 +45,11 @@ struct IFSEntry {
     bool operator==(const IFSEntry&) const = default;
 };
 
+// Copies a..f of `from` into `to`, keeping to's probability and chaos game fields.
+void CopyCoefficients(IFSFunction& to, const IFSFunction& from);
+// Slot i of `ifs` gets a..f of m; its probability and chaos game fields stay.
+void StoreCoefficients(IFSEntry& ifs, int i, const IFSFunction& m);
+
 // The one-function "Untitled" IFS of a fresh start and of New IFS.
 void InitializeIFS(IFSEntry& ifs);
 IFSEntry DefaultIFS();

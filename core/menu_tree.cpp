@@ -358,21 +358,25 @@ const std::vector<MenuNode>& PopupMenus() {
 
 const std::vector<ToolbarButton>& MainToolbarButtons() {
     static const std::vector<ToolbarButton> buttons = {
-        {"new", "New IFS"},
-        {"open", "Open IFS File"},
-        {"save", "Save IFS Fractals List"},
-        {"print", "Print"},
-        {"undo", "Undo"},
-        {"copy", "Copy"},
-        {"paste", "Paste"},
-        {"matrix", "Matrix Compact Form"},
-        {"rotation", "Scale/Rotation Form"},
-        {"fixed point", "Fixed Point Form"},
-        {"draw", "Draw"},
-        {"stop", "Stop"},
-        {"help", "Help"},
+        {"new", "New IFS", 1},
+        {"open", "Open IFS File", 2},
+        {"save", "Save IFS Fractals List", 3},
+        {"print", "Print", 5},
+        {"undo", "Undo", 7},
+        {"copy", "Copy", 8},
+        {"paste", "Paste", 9},
+        {"matrix", "Matrix Compact Form", 10},
+        {"rotation", "Scale/Rotation Form", 11},
+        {"fixed point", "Fixed Point Form", 12},
+        {"draw", "Draw", 14},
+        {"stop", "Stop", 15},
+        {"help", "Help", 17},
     };
     return buttons;
+}
+
+std::string FrameButtonKey(int number) {
+    return MenuTable::key("Toolbar", number);
 }
 
 void InitializeMenuState(MenuTable& table) {
@@ -387,6 +391,9 @@ void InitializeMenuState(MenuTable& table) {
     // An empty list: only "add as" can do anything.
     for (const char* key : {"mnuNames(0)", "mnuNames(2)", "mnuNames(3)"}) table.setEnabled(key, false);
     for (const char* key : {"mnuStop", "mnuDrawImageSize", "mnuUndo"}) table.setEnabled(key, false);
+    for (const ToolbarButton& b : MainToolbarButtons()) table.setCaption(FrameButtonKey(b.number), b.toolTip);
+    // The fixed point form button waits for chaos game mode.
+    table.setEnabled(FrameButtonKey(12), false);
     // The program starts in Random mode, where these deterministic commands are off.
     for (const char* key :
          {"mnuFileSaveAnimGif", "mnuDrawAddFigureItems", "mnuDrawDetColors", "mnuDrawOverlay"})

@@ -33,9 +33,13 @@ const std::vector<MenuNode>& PopupMenus();
 struct ToolbarButton {
     std::string key;
     std::string toolTip;
+    int number = 0;  // the button's entry "Toolbar(number)" in the menu table; separators count
 };
 
 const std::vector<ToolbarButton>& MainToolbarButtons();
+// The menu-table key of frame toolbar button `number`: its caption is the tool tip, and a disabled
+// entry disables the button whatever its command.
+std::string FrameButtonKey(int number);
 
 // Writes every item of both trees into the table, then the states the program starts with.
 void InitializeMenuState(MenuTable& table);

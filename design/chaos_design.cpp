@@ -7,12 +7,14 @@
 #include "core/fractal_list.h"
 #include "core/function_forms.h"
 #include "core/function_table.h"
+#include "core/menu_tree.h"
 #include "core/numbers.h"
 #include "core/startup.h"
 #include "core/table_editing.h"
 #include "design/chaos_drawing.h"
 #include "design/chaos_moves.h"
 #include "design/design_drawing.h"
+#include "design/transform_count_commands.h"
 #include "design/undo.h"
 #include "render/fractal_view.h"
 
@@ -22,11 +24,6 @@ namespace {
 
 // The Toolbar1 buttons that mean nothing for fixed points: "polygon" and "fixed points".
 constexpr int PolygonButton = 9, FixedPointsButton = 11;
-
-float randomPlace(Workbench& wb, float lo, float hi) {
-    const float r = static_cast<float>(wb.Rng.Rnd()) * 0.8f + 0.2f;
-    return (hi - lo) * r / 2 + lo;
-}
 
 std::array<std::string, 5> stepsOf(const IFSEntry& ifs, int i) {
     std::array<std::string, 5> s;
@@ -62,21 +59,22 @@ void extend(float& lo, float& hi, double v) {
     hi = std::max(hi, static_cast<float>(v));
 }
 
-void setFileCaptions(Workbench& wb) {
-    wb.Menu.setCaption("mnuSaveCurrent", SaveCurrentCGCaption);
-    wb.Menu.setCaption("mnuSaveIFS", SaveIFSCGCaption);
-    wb.Menu.setCaption("mnuSaveIFSas", SaveIFSasCGCaption);
-    wb.Menu.setCaption("mnuOpen", OpenCGCaption);
-    wb.Menu.setCaption("mnuFileAppend", FileAppendCGCaption);
-    wb.Menu.setCaption(FrameButtonKey(1), NewChaosGameButton);
-    wb.Menu.setCaption(FrameButtonKey(2), OpenChaosGameButton);
+// The file items and the first two frame buttons speak of chaos games in that mode; the way back puts
+// the captions of IFS mode back, so that they name what the items then open and save.
+void setFileCaptions(Workbench& wb, bool chaosGame) {
+    static const std::pair<const char*, const char*> items[] = {{"mnuSaveCurrent", SaveCurrentCGCaption},
+                                                                {"mnuSaveIFS", SaveIFSCGCaption},
+                                                                {"mnuSaveIFSas", SaveIFSasCGCaption},
+                                                                {"mnuOpen", OpenCGCaption},
+                                                                {"mnuFileAppend", FileAppendCGCaption}};
+    for (const auto& [key, caption] : items)
+        wb.Menu.setCaption(key, chaosGame ? std::string(caption) : FindMenuNode(key)->caption);
+    const auto& buttons = MainToolbarButtons();
+    wb.Menu.setCaption(FrameButtonKey(buttons[0].number), chaosGame ? NewChaosGameButton : buttons[0].toolTip);
+    wb.Menu.setCaption(FrameButtonKey(buttons[1].number), chaosGame ? OpenChaosGameButton : buttons[1].toolTip);
 }
 
 }  // namespace
-
-std::string FrameButtonKey(int button) {
-    return MenuTable::key("Toolbar", button);
-}
 
 void CGDesignMenus(Workbench& wb, bool Visible) {
     for (const char* key :
@@ -119,7 +117,7 @@ bool mnuNewChaosGame_Click(Workbench& wb, Host& host) {
     WriteTableRows(wb);
     wb.lblProbSum = ProbSumText(wb);
     ResetUndoMenu(wb);
-    setFileCaptions(wb);
+    setFileCaptions(wb, true);
     if (wb.ScaleCG.Showing) SetFPSettings(wb, true);
     return true;
 }
@@ -136,6 +134,7 @@ void SetupIFSDesign(Workbench& wb) {
     wb.Menu.setEnabled("mnuProbCalc", true);
     wb.IFSModified = false;
     wb.ChangeCount = 0;
+    setFileCaptions(wb, false);
 }
 
 void newCGFixedPoint(Workbench& wb, Host& host, bool Random, float x, float y) {
@@ -149,9 +148,7 @@ void newCGFixedPoint(Workbench& wb, Host& host, bool Random, float x, float y) {
     ifs.Angle[i] = 0;
     ifs.p[i] = 0;
     if (Random) {
-        const WorldWindow& w = wb.DesignWindow;
-        wb.OriginalMap.e = randomPlace(wb, w.xmin, w.xmax);
-        wb.OriginalMap.f = randomPlace(wb, w.ymin, w.ymax);
+        PlaceNewFunction(wb);
     } else if (x < 10000 && y < 10000) {
         wb.OriginalMap.e = x;
         wb.OriginalMap.f = y;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/host.h"
+#include "core/menu_tree.h"
 #include "core/workbench.h"
 
 namespace quillane {
@@ -18,9 +19,6 @@ inline constexpr const char* NewChaosGameButton = "New Chaos Game";
 inline constexpr const char* OpenChaosGameButton = "Open Chaos Game file";
 inline constexpr const char* UndoMoveReferenceCaption = "&Undo Move Reference Point";
 inline constexpr const char* RedoMoveReferenceCaption = "&Redo Move Reference Point";
-
-// The frame's toolbar buttons by number, in the menu table.
-std::string FrameButtonKey(int button);
 
 // Shows the IFS-mode transformation items (Visible) or, the other way round, mnuDesignCGMoves.
 void CGDesignMenus(Workbench& wb, bool Visible);

@@ -83,22 +83,4 @@ IFSFunction StretchColumns(const IFSFunction& m, float sh, float sv) {
     return r;
 }
 
-void CopyCoefficients(IFSFunction& to, const IFSFunction& from) {
-    to.a = from.a;
-    to.b = from.b;
-    to.c = from.c;
-    to.d = from.d;
-    to.e = from.e;
-    to.f = from.f;
-}
-
-void StoreCoefficients(IFSEntry& ifs, int i, const IFSFunction& m) {
-    ifs.a[i] = m.a;
-    ifs.b[i] = m.b;
-    ifs.c[i] = m.c;
-    ifs.d[i] = m.d;
-    ifs.e[i] = m.e;
-    ifs.f[i] = m.f;
-}
-
 }  // namespace quillane

@@ -32,9 +32,4 @@ IFSFunction ScaleMatrix(const IFSFunction& m, float s);
 // The stretch of frmSkew multiplies the columns, acting in the polygon's own axes before the map.
 IFSFunction StretchColumns(const IFSFunction& m, float sh, float sv);
 
-// Copies a..f of `from` into `to`, keeping to's probability and chaos game fields.
-void CopyCoefficients(IFSFunction& to, const IFSFunction& from);
-// Slot i of `ifs` gets a..f of m.
-void StoreCoefficients(IFSEntry& ifs, int i, const IFSFunction& m);
-
 }  // namespace quillane

@@ -44,12 +44,14 @@ bool idle(const Workbench& wb) {
 
 }  // namespace
 
+void PlaceNewFunction(Workbench& wb) {
+    const WorldWindow& w = wb.DesignWindow;
+    wb.OriginalMap.e = randomPlace(wb, w.xmin, w.xmax);
+    wb.OriginalMap.f = randomPlace(wb, w.ymin, w.ymax);
+}
+
 void NewDesignPoly(Workbench& wb, Host& host, bool Random) {
-    if (Random) {
-        const WorldWindow& w = wb.DesignWindow;
-        wb.OriginalMap.e = randomPlace(wb, w.xmin, w.xmax);
-        wb.OriginalMap.f = randomPlace(wb, w.ymin, w.ymax);
-    }
+    if (Random) PlaceNewFunction(wb);
     addFunction(wb, host, 0.5f, 0, 0, 0.5f);
 }
 

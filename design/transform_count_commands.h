@@ -10,6 +10,9 @@ namespace quillane {
 // Adds a half-size copy of the initial polygon: at random in the lower left of the window (10% to 50%
 // of each span, two draws), or, with Random false, at e0, f0 of OriginalMap as Redo needs. Selects it.
 void NewDesignPoly(Workbench& wb, Host& host, bool Random);
+// A new function's random place, kept in e and f of OriginalMap: two draws, each at 10% to 50% of the
+// design window's span from its low end.
+void PlaceNewFunction(Workbench& wb);
 // A copy of the selected function's matrix, placed as New does but with one draw for both e and f.
 void DuplicateMap(Workbench& wb, Host& host, bool Random);
 // Takes function k out; the later ones move down, their colours with them, and k's colour goes to the

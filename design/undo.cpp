@@ -227,6 +227,12 @@ UndoResult mnuUndo_Click(Workbench& wb, Host& host, FractalPictures& pics, const
     const std::string caption = ToLower(item.caption);
     if (caption == ToLower(UndoTextEntryCaption)) return {UndoKind::TextEntry, UndoTextEntry(wb)};
     if (caption == ToLower(UndoZoomCaption)) return undoZoom(wb, host, pics, hooks);
+    if (caption == RedoTextEntryCaption) return {};
+    if (caption == RedoZoomCaption) {
+        if (wb.ZoomUndoSource != 0) return {};
+        if (hooks.ZoomDesignOut) hooks.ZoomDesignOut();
+        return {UndoKind::Zoom, {}};
+    }
     if (wb.DesignMode == 1) return undoChaosGame(wb, host, caption);
     if (caption == ToLower(UndoClearCaption)) {
         --wb.ChangeCount;

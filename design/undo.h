@@ -33,6 +33,10 @@ inline constexpr const char* RedoNewCaption = "&Redo New Transformation";
 inline constexpr const char* UndoDuplicateCaption = "&Undo Duplicate";
 inline constexpr const char* RedoDuplicateCaption = "&Redo Duplicate";
 inline constexpr const char* UndoClearCaption = "&Undo Clear";
+// Recognised by Undo, though no change sets them: a text entry keeps no result to put back, and a
+// zoom is undone only once.
+inline constexpr const char* RedoTextEntryCaption = "&redo text entry";
+inline constexpr const char* RedoZoomCaption = "&redo zoom";
 
 // The images of the main toolbar's undo button.
 inline constexpr int UndoButtonImageUndo = 19;
@@ -43,6 +47,7 @@ inline constexpr int UndoButtonImageRedo = 18;
 struct DesignHooks {
     std::function<void()> DesignScale;     // scale to fit
     std::function<void()> UndoDesignZoom;  // DesignWindow back from before the zoom, rescaled
+    std::function<void()> ZoomDesignOut;   // DesignWinZoom(1)
 };
 
 // The caption the next change will be undone by, set while a gesture runs; undo stays as it is.

@@ -388,18 +388,37 @@ bool AcceptFigure(Workbench& wb, InitialFigures& figs, int Figure,
     return true;
 }
 
+namespace {
+
+const std::string& ifsColorsItem() {
+    static const std::string key = MenuTable::key("mnuDrawDetColorItems", 0);
+    return key;
+}
+
+void checkColorItems(Workbench& wb, bool useIFSColors) {
+    wb.Menu.setChecked(ifsColorsItem(), useIFSColors);
+    wb.Menu.setChecked(MenuTable::key("mnuDrawDetColorItems", 1), !useIFSColors);
+}
+
+}  // namespace
+
 void FigureColorItems(Workbench& wb, InitialFigures& figs, int Figure) {
-    const std::string ifsColors = MenuTable::key("mnuDrawDetColorItems", 0);
-    const std::string imageColors = MenuTable::key("mnuDrawDetColorItems", 1);
     if (Figure > 6) {
-        if (!figs.savedUseIFSColors) figs.savedUseIFSColors = wb.menu(ifsColors).checked;
-        wb.Menu.setChecked(ifsColors, false);
-        wb.Menu.setChecked(imageColors, true);
+        if (!figs.savedUseIFSColors) figs.savedUseIFSColors = wb.menu(ifsColorsItem()).checked;
+        checkColorItems(wb, false);
     } else if (figs.savedUseIFSColors) {
-        wb.Menu.setChecked(ifsColors, *figs.savedUseIFSColors);
-        wb.Menu.setChecked(imageColors, !*figs.savedUseIFSColors);
+        checkColorItems(wb, *figs.savedUseIFSColors);
         figs.savedUseIFSColors.reset();
     }
+}
+
+bool FigureUsesIFSColors(const Workbench& wb, const InitialFigures& figs) {
+    return figs.savedUseIFSColors.value_or(wb.menu(ifsColorsItem()).checked);
+}
+
+void SetFigureColorChoice(Workbench& wb, InitialFigures& figs, bool useIFSColors) {
+    figs.savedUseIFSColors.reset();
+    checkColorItems(wb, useIFSColors);
 }
 
 std::string PictureName(Host& host) {

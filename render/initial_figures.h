@@ -174,6 +174,12 @@ bool AcceptFigure(Workbench& wb, InitialFigures& figs, int Figure,
 // The colour items after a figure was chosen: a picture figure (7, 8) remembers them once and turns
 // on "Use Image Colors"; a drawn figure brings the remembered choice back.
 void FigureColorItems(Workbench& wb, InitialFigures& figs, int Figure);
+// The chkColor box of the figure dialogs: whether the figure will be drawn in the IFS colours, that
+// is mnuDrawDetColorItems(0) as it stands after a drawn figure brought a remembered choice back.
+bool FigureUsesIFSColors(const Workbench& wb, const InitialFigures& figs);
+// OK of a figure dialog sets the two items from chkColor; the person's choice replaces one remembered
+// from a picture figure. Cancel calls nothing, so the items stay.
+void SetFigureColorChoice(Workbench& wb, InitialFigures& figs, bool useIFSColors);
 
 // Where a placed picture at world (PasteX, PasteY) must go after the view changes from `before` to
 // `after`, so that it stays on the same pixels of a picture `side` pixels square.

@@ -70,15 +70,8 @@ bool commitNumberBox(Workbench& wb, int column, int row) {
 }
 
 void restoreOriginalMap(Workbench& wb, int row) {
-    IFSEntry& ifs = wb.CurrentIFS;
-    const IFSFunction& m = wb.OriginalMap;
-    ifs.a[row] = m.a;
-    ifs.b[row] = m.b;
-    ifs.c[row] = m.c;
-    ifs.d[row] = m.d;
-    ifs.e[row] = m.e;
-    ifs.f[row] = m.f;
-    ifs.p[row] = m.p;
+    StoreCoefficients(wb.CurrentIFS, row, wb.OriginalMap);
+    wb.CurrentIFS.p[row] = wb.OriginalMap.p;
 }
 
 void selectAfterCount(Workbench& wb, int n, bool oneAdded) {

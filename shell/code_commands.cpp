@@ -24,7 +24,11 @@ void RegisterCodeCommands(MainWindow& frame) {
     frame.setCommand("mnuCodeFP", [&s] { mnuCodeFP_Click(s.wb); });
     frame.setCommand("mnuProb", [&s, &host] { mnuProb_Click(s.wb, host); });
     frame.setCommand("mnuProbCalc", [&s, &host] { mnuProbCalc_Click(s.wb, host); });
-    frame.setCommand("mnuCodeArrangeFP", [&s] { mnuCodeArrangeFP_Click(s.wb); });
+    // The points move far: the design window fits them again.
+    frame.setCommand("mnuCodeArrangeFP", [&s] {
+        mnuCodeArrangeFP_Click(s.wb);
+        DesignScale(s.wb, s.design);
+    });
     frame.setCommand("mnuCodeRename",
                      [&frame, &s] { mnuCodeRename_Click(s.wb, frame.dialogs().frmIFSName); });
     frame.setCommand("mnuCodeComment", [&frame, &s] {

@@ -63,8 +63,10 @@ void RegisterFigureCommands(MainWindow& frame) {
         if (figure < 0 || figure > 6) figure = 0;
         std::optional<FigureParameters> p = memory->figs.last[figure];
         if (showDialog) {
-            p = AskFigure(&frame, host, figure, wb.InitialPolygon, p);
+            bool useIFSColors = FigureUsesIFSColors(wb, memory->figs);
+            p = AskFigure(&frame, host, figure, wb.InitialPolygon, p, useIFSColors);
             if (!p) return false;
+            SetFigureColorChoice(wb, memory->figs, useIFSColors);
         }
         if (!p) p = defaultParameters(figure);
         if (resetWindow) fitWindow(wb, pics, *p, wb.InitialPolygon);

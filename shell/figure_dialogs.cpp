@@ -36,11 +36,12 @@ QString num(float v) {
 // A dialog of named boxes whose OK runs `accept` and closes only when it says so.
 class FigureDialog : public QDialog {
   public:
-    FigureDialog(QWidget* parent, int figure) : QDialog(parent) {
+    FigureDialog(QWidget* parent, int figure, bool useIFSColors) : QDialog(parent), useIFSColors_(useIFSColors) {
         setObjectName(DialogNames[figure]);
         setWindowTitle(DialogTitles[figure]);
         form_ = new QFormLayout(this);
     }
+    bool usesIFSColors() const { return chkColor_ && chkColor_->isChecked(); }
     QLineEdit* box(const char* name, const QString& label, const QString& text) {
         auto* b = new QLineEdit(text, this);
         b->setObjectName(name);
@@ -92,6 +93,8 @@ class FigureDialog : public QDialog {
     }
     void finish(std::function<bool()> onOk) {
         onOk_ = std::move(onOk);
+        // Unchecked, the figure keeps its own colours through the levels ("Use Image Colors").
+        chkColor_ = check("chkColor", "Use IFS Color Scheme", useIFSColors_);
         auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
         connect(buttons, &QDialogButtonBox::accepted, this, &FigureDialog::accept);
         connect(buttons, &QDialogButtonBox::rejected, this, &FigureDialog::reject);
@@ -104,6 +107,8 @@ class FigureDialog : public QDialog {
   private:
     QFormLayout* form_;
     std::function<bool()> onOk_;
+    bool useIFSColors_;
+    QCheckBox* chkColor_ = nullptr;
 };
 
 template <class T>
@@ -123,8 +128,8 @@ bool take(Host& host, const Checked<T>& verdict, std::optional<FigureParameters>
 
 std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figure,
                                           const DesignPolygon& polygon,
-                                          const std::optional<FigureParameters>& last) {
-    FigureDialog d(parent, figure);
+                                          const std::optional<FigureParameters>& last, bool& useIFSColors) {
+    FigureDialog d(parent, figure, useIFSColors);
     std::optional<FigureParameters> result;
     // The colours the dialog's buttons change; they outlive the buttons.
     Color color = Black, fill = Black;
@@ -259,6 +264,7 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
         });
     }
     if (d.exec() != QDialog::Accepted) return std::nullopt;
+    useIFSColors = d.usesIFSColors();
     return result;
 }
 

@@ -241,9 +241,12 @@ std::string FrameToolbar::commandOf(const std::string& key) const {
 
 void FrameToolbar::sync() {
     const MenuTable& table = wb_.Menu;
-    for (const auto& [key, action] : buttons_) {
-        const std::string command = commandOf(key);
-        action->setEnabled(table(command).enabled && hasCommand_(command));
+    for (const ToolbarButton& b : MainToolbarButtons()) {
+        QAction* action = buttons_.at(b.key);
+        const std::string command = commandOf(b.key);
+        const MenuItemState& entry = table(FrameButtonKey(b.number));
+        action->setEnabled(entry.enabled && table(command).enabled && hasCommand_(command));
+        if (b.key != "matrix") action->setToolTip(QString::fromStdString(entry.caption));
     }
     const bool functionForm = table("mnuCodeMatrixFormat").checked;
     button("matrix")->setChecked(table("mnuMatrix").checked || functionForm);

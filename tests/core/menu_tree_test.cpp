@@ -317,8 +317,14 @@ TEST(InitialMenuState, EveryItemIsWrittenWithItsCaption) {
         ASSERT_TRUE(table.contains(node->key())) << node->key();
         EXPECT_EQ(table(node->key()).caption, node->caption) << node->key();
     }
-    EXPECT_EQ(table.items().size(), AllNodes().size());
+    // and one entry per frame toolbar button, its tool tip as the caption
+    EXPECT_EQ(table.items().size(), AllNodes().size() + MainToolbarButtons().size());
     EXPECT_EQ(table("mnuOpen"), (MenuItemState{"&Open IFS File...", false, true, true}));
+    EXPECT_EQ(table("Toolbar(1)").caption, "New IFS");
+    EXPECT_EQ(table("Toolbar(2)").caption, "Open IFS File");
+    EXPECT_EQ(table("Toolbar(12)").caption, "Fixed Point Form");
+    EXPECT_FALSE(table("Toolbar(12)").enabled) << "the fixed point form belongs to chaos game mode";
+    EXPECT_TRUE(table("Toolbar(11)").enabled);
 }
 
 TEST(InitialMenuState, StartsWithTheProgramsChecks) {
@@ -363,8 +369,9 @@ TEST(InitialMenuState, ReportsEveryWriteToTheObserver) {
     std::set<std::string> heard;
     table.observer = [&heard](const std::string& key) { heard.insert(key); };
     InitializeMenuState(table);
-    EXPECT_EQ(heard.size(), AllNodes().size());
+    EXPECT_EQ(heard.size(), AllNodes().size() + MainToolbarButtons().size());
     EXPECT_TRUE(heard.count("mnuStop"));
+    EXPECT_TRUE(heard.count("Toolbar(12)"));
 }
 
 }  // namespace

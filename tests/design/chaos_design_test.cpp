@@ -79,6 +79,18 @@ TEST_F(ChaosDesign, SetupIFSDesignGoesBackToIFSMode) {
     EXPECT_FALSE(wb.IFSModified);
 }
 
+TEST_F(ChaosDesign, TheWayBackPutsTheIFSCaptionsBack) {
+    ASSERT_EQ(wb.menu("mnuOpen").caption, "&Open Chaos Game File...");
+    SetupIFSDesign(wb);
+    EXPECT_EQ(wb.menu("mnuSaveCurrent").caption, "Save &Current IFS to File...");
+    EXPECT_EQ(wb.menu("mnuSaveIFS").caption, "&Save IFS Fractals List");
+    EXPECT_EQ(wb.menu("mnuSaveIFSas").caption, "Save IFS Fractals List &As...");
+    EXPECT_EQ(wb.menu("mnuOpen").caption, "&Open IFS File...");
+    EXPECT_EQ(wb.menu("mnuFileAppend").caption, "Appen&d IFS File...");
+    EXPECT_EQ(wb.menu(FrameButtonKey(1)).caption, "New IFS");
+    EXPECT_EQ(wb.menu(FrameButtonKey(2)).caption, "Open IFS File");
+}
+
 TEST_F(ChaosDesign, NewFixedPointAtAPositionHasTheRecipeS) {
     newCGFixedPoint(wb, host, false, 0.8f, 0.2f);
     ASSERT_EQ(wb.CurrentIFS.nMaps, 2);

@@ -22,7 +22,7 @@ struct UndoBench {
     ScriptedHost host;
     FractalPictures pics;
     DesignHooks hooks;
-    int designScales = 0, designZoomUndos = 0;
+    int designScales = 0, designZoomUndos = 0, designZoomOuts = 0;
     UndoBench() {
         IFSEntry ifs = SierpinskiTriangleIFS();
         ifs.Name = "Tri";
@@ -36,6 +36,7 @@ struct UndoBench {
         pics.resize(32, White);
         hooks.DesignScale = [this] { ++designScales; };
         hooks.UndoDesignZoom = [this] { ++designZoomUndos; };
+        hooks.ZoomDesignOut = [this] { ++designZoomOuts; };
         wb.SelectedMap = 1;
         wb.MapSelected = true;
     }
@@ -296,6 +297,32 @@ TEST(Undo, DesignZoomUndoCallsTheWindowAndResetsWithoutCounting) {
     EXPECT_EQ(t.designZoomUndos, 1);
     EXPECT_EQ(t.caption(), "&Undo");
     EXPECT_FALSE(t.wb.menu("mnuUndo").enabled);
+    EXPECT_EQ(t.wb.ChangeCount, 0);
+}
+
+TEST(Undo, TheRedoZoomCaptionZoomsTheDesignOutOnlyWhenItZoomedLast) {
+    UndoBench t;
+    SetUndoCaption(t.wb, "&Redo Zoom");  // matched without regard to case
+    OfferUndo(t.wb);
+    t.wb.ZoomUndoSource = 0;
+    EXPECT_EQ(t.undo().kind, UndoKind::Zoom);
+    EXPECT_EQ(t.designZoomOuts, 1);
+    t.wb.ZoomUndoSource = 1;
+    const WorldWindow window = t.wb.Window;
+    EXPECT_EQ(t.undo().kind, UndoKind::None);
+    EXPECT_EQ(t.designZoomOuts, 1);
+    EXPECT_EQ(t.wb.Window, window);
+}
+
+TEST(Undo, TheRedoTextEntryCaptionKeepsTheTableAsItIs) {
+    UndoBench t;
+    SetUndoCaption(t.wb, RedoTextEntryCaption);
+    OfferUndo(t.wb);
+    const IFSEntry before = t.wb.CurrentIFS;
+    const std::string box = t.wb.Table.text(1, 1);
+    EXPECT_EQ(t.undo().kind, UndoKind::None);
+    EXPECT_EQ(t.wb.CurrentIFS, before);
+    EXPECT_EQ(t.wb.Table.text(1, 1), box);
     EXPECT_EQ(t.wb.ChangeCount, 0);
 }
 

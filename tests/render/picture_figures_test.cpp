@@ -72,6 +72,25 @@ TEST_F(PictureFigures, APictureTurnsOnImageColoursAndADrawnFigureBringsTheChoice
     EXPECT_FALSE(pics.PictureOverlaid);
 }
 
+TEST_F(PictureFigures, TheDialogsColourBoxShowsTheChoiceADrawnFigureWillHave) {
+    EXPECT_TRUE(FigureUsesIFSColors(wb, figs));
+    chooseFile();
+    EXPECT_FALSE(wb.menu(MenuTable::key("mnuDrawDetColorItems", 0)).checked);
+    EXPECT_TRUE(FigureUsesIFSColors(wb, figs)) << "the remembered choice comes back with a drawn figure";
+}
+
+TEST_F(PictureFigures, ThePersonsColourChoiceReplacesTheRememberedOne) {
+    chooseFile();
+    SetFigureColorChoice(wb, figs, false);
+    EXPECT_FALSE(wb.menu(MenuTable::key("mnuDrawDetColorItems", 0)).checked);
+    EXPECT_TRUE(wb.menu(MenuTable::key("mnuDrawDetColorItems", 1)).checked);
+    FigureColorItems(wb, figs, 3);
+    EXPECT_FALSE(wb.menu(MenuTable::key("mnuDrawDetColorItems", 0)).checked);
+    SetFigureColorChoice(wb, figs, true);
+    EXPECT_TRUE(wb.menu(MenuTable::key("mnuDrawDetColorItems", 0)).checked);
+    EXPECT_FALSE(wb.menu(MenuTable::key("mnuDrawDetColorItems", 1)).checked);
+}
+
 TEST_F(PictureFigures, CancellingTheFileDialogLeavesFigureAndPicture) {
     chooseFile();
     PlaceFractalSelection(wb, pics);

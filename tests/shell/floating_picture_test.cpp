@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QGuiApplication>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -140,6 +141,37 @@ TEST_F(FloatingPictureTest, AGeneralTriangleIsDrawnFromItsThreeCorners) {
     const RasterSurface& p = pics().picfractal;
     EXPECT_NE(p.point(1.0, 0.2), White);
     EXPECT_EQ(p.point(1.8, 0.8), White) << "beyond the long side";
+}
+
+// Finds the figure dialog `name` once it shows, sets chkColor and answers it.
+void answerFigureDialog(const char* name, bool useIFSColors, bool ok) {
+    QTimer::singleShot(0, [=] {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (w->objectName() != name || !w->isVisible()) continue;
+            w->findChild<QCheckBox*>("chkColor")->setChecked(useIFSColors);
+            if (ok)
+                static_cast<QDialog*>(w)->accept();
+            else
+                static_cast<QDialog*>(w)->reject();
+        }
+    });
+}
+
+TEST_F(FloatingPictureTest, ThePolygonDialogsColourBoxSetsTheColourItemsOnOkOnly) {
+    item("mnuDrawType(1)")->trigger();
+    ASSERT_TRUE(wb().menu("mnuDrawDetColorItems(0)").checked);
+    answerFigureDialog("frmPolygonDesign", false, false);
+    item("mnuDrawAddFigure(0)")->trigger();
+    EXPECT_TRUE(wb().menu("mnuDrawDetColorItems(0)").checked) << "Cancel keeps the items";
+    EXPECT_FALSE(wb().menu("mnuDrawDetColorItems(1)").checked);
+    answerFigureDialog("frmPolygonDesign", false, true);
+    item("mnuDrawAddFigure(0)")->trigger();
+    EXPECT_FALSE(wb().menu("mnuDrawDetColorItems(0)").checked);
+    EXPECT_TRUE(wb().menu("mnuDrawDetColorItems(1)").checked);
+    answerFigureDialog("frmCircle", true, true);
+    item("mnuDrawAddFigure(6)")->trigger();
+    EXPECT_EQ(wb().DetFigure, 6);
+    EXPECT_TRUE(wb().menu("mnuDrawDetColorItems(0)").checked);
 }
 
 }  // namespace

@@ -263,6 +263,23 @@ TEST_F(FrameTest, TheUndoButtonIsEnabledAsTheItemIs) {
     EXPECT_TRUE(undo->isEnabled());
 }
 
+TEST_F(FrameTest, ChaosGameModeRenamesTheFirstTwoButtonsAndEnablesTheFixedPointButton) {
+    open();
+    FrameToolbar* bar = frame->toolbar();
+    EXPECT_EQ(bar->button("new")->toolTip(), "New IFS");
+    EXPECT_EQ(bar->button("open")->toolTip(), "Open IFS File");
+    EXPECT_FALSE(bar->button("fixed point")->isEnabled());
+    frame->runCommand("mnuNewChaosGame");
+    EXPECT_EQ(bar->button("new")->toolTip(), "New Chaos Game");
+    EXPECT_EQ(bar->button("open")->toolTip(), "Open Chaos Game file");
+    EXPECT_TRUE(bar->button("fixed point")->isEnabled());
+    EXPECT_EQ(bar->commandOf("new"), "mnuNewChaosGame");
+    // The entry of the button rules even where its menu item is enabled.
+    wb().Menu.setEnabled(FrameButtonKey(12), false);
+    EXPECT_TRUE(wb().menu("mnuCodeFP").enabled);
+    EXPECT_FALSE(bar->button("fixed point")->isEnabled());
+}
+
 TEST_F(FrameTest, ShowToolTipsTurnsTheTipsOfAllWindowsOffAndOn) {
     open();
     QHelpEvent tip(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
