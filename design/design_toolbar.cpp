@@ -1,5 +1,7 @@
 #include "design/design_toolbar.h"
 
+#include <filesystem>
+
 #include "design/chaos_design.h"
 #include "design/gesture_math.h"
 #include "design/transform_commands.h"
@@ -37,6 +39,14 @@ void ToolbarRotate(Workbench& wb, double angle) {
         RotateCGDesign(wb, angle);
     else
         RotateIFSDesign(wb, angle);
+}
+
+bool DesignHelp(Host& host, const std::string& programDir, const std::function<bool(const std::string&)>& open) {
+    const std::string path = (std::filesystem::path(programDir) / HelpFileName).string();
+    std::error_code ec;
+    if (std::filesystem::is_regular_file(path, ec) && open && open(path)) return true;
+    host.warn(HelpErrorTitle, DesignHelpErrorText);
+    return false;
 }
 
 }  // namespace quillane

@@ -2,9 +2,11 @@
 // The drop-down items of the design window's Toolbar1 and what they do: line styles on "lines",
 // fixed angles and "Other" on "rotate left" and "rotate right". Plain C++, the window builds its
 // menus from these.
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "core/host.h"
 #include "core/workbench.h"
 
 namespace quillane {
@@ -32,5 +34,14 @@ bool ToolbarCanRotate(const Workbench& wb);
 // Rotates the selected function by `angle` degrees: RotateIFSDesign, or RotateCGDesign in chaos
 // game mode; nothing without a selection or while drawing.
 void ToolbarRotate(Workbench& wb, double angle);
+
+inline constexpr const char* HelpFileName = "Quillane Help.chm";
+inline constexpr const char* HelpErrorTitle = "Help Error";
+inline constexpr const char* DesignHelpErrorText =
+    "The help file could not be loaded.\nMake sure that Quillanehelp.chm is in the same";
+
+// The "help" button: opens the help file of the program's folder through `open`; a missing file or
+// a failed opening says so in a box. True when the help opened.
+bool DesignHelp(Host& host, const std::string& programDir, const std::function<bool(const std::string&)>& open);
 
 }  // namespace quillane

@@ -1,6 +1,8 @@
 #include "shell/design_commands.h"
 
+#include <QDesktopServices>
 #include <QFontMetrics>
+#include <QUrl>
 #include <QLabel>
 #include <QMdiSubWindow>
 
@@ -73,6 +75,11 @@ void registerViewCommands(MainWindow& frame) {
     frame.setCommand("mnuDesignMatch", [&s] { mnuDesignMatch_Click(s.wb, s.design, s.pics); });
     frame.setCommand("mnuDesignZoom", [&s] { DesignWinZoom(s.wb, s.design, 1); });
     frame.setCommand("mnuDesignZoomIn", [&s] { DesignWinZoom(s.wb, s.design, -1); });
+    frame.setCommand("DesignHelp", [&frame] {
+        DesignHelp(frame.host(), frame.programDir(), [](const std::string& path) {
+            return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
+        });
+    });
     frame.setArrayCommand("MnuDesignShiftDir", [&s](int i) { MnuDesignShiftDir_Click(s.wb, s.design, i); });
 }
 

@@ -176,15 +176,22 @@ void DesignForm::buildToolbar() {
         QAction* a = Toolbar1_->addAction(button.key);
         a->setObjectName(QString::fromStdString(DesignToolbarKey(b)));
         const std::string command = button.command;
-        connect(a, &QAction::triggered, this, [this, command] {
-            if (runCommand) runCommand(command);
-            if (picdesign_) picdesign_->setFocus();
-        });
+        const bool help = button.key == std::string("help");
+        connect(a, &QAction::triggered, this, [this, command, help] { runToolCommand(command, !help); });
         if (button.key == std::string("lines")) addDropDown(a, "mnuDesignLine", LineDropItems());
         if (button.key == std::string("rotate left")) addDropDown(a, "DesignRotateLeftItem", RotateDropItems(true));
         if (button.key == std::string("rotate right"))
             addDropDown(a, "DesignRotateRightItem", RotateDropItems(false));
     }
+}
+
+// While a button's command runs, the picture losing its focus to a dialog is not the person leaving
+// it: polygon drawing goes on.
+void DesignForm::runToolCommand(const std::string& command, bool focusBack) {
+    toolBusy_ = true;
+    if (runCommand) runCommand(command);
+    toolBusy_ = false;
+    if (focusBack && picdesign_) picdesign_->setFocus();
 }
 
 // Item k of the drop-down runs the array command `command`(k); the button keeps its own click.
@@ -195,10 +202,7 @@ void DesignForm::addDropDown(QAction* button, const std::string& command, const 
         QAction* item = menu->addAction(QString::fromStdString(items[k].caption));
         item->setObjectName(QString::fromStdString(items[k].key));
         const std::string key = command + "(" + std::to_string(k) + ")";
-        connect(item, &QAction::triggered, this, [this, key] {
-            if (runCommand) runCommand(key);
-            if (picdesign_) picdesign_->setFocus();
-        });
+        connect(item, &QAction::triggered, this, [this, key] { runToolCommand(key, true); });
     }
     button->setMenu(menu);
     if (auto* tool = qobject_cast<QToolButton*>(Toolbar1_->widgetForAction(button)))
@@ -360,7 +364,7 @@ void DesignForm::onDoubleClick() {
 }
 
 void DesignForm::onFocusLost() {
-    if (!state_.design.Poly.PolygonMode) return;
+    if (!state_.design.Poly.PolygonMode || toolBusy_) return;
     PolygonModeFinish(state_.wb, state_.design);
     picdesign_->setCursor(Qt::CrossCursor);
     changed();

@@ -59,6 +59,7 @@ class DesignForm : public QWidget {
 
   private:
     void buildToolbar();
+    void runToolCommand(const std::string& command, bool focusBack);
     void addDropDown(QAction* button, const std::string& command, const std::vector<ToolbarDropItem>& items);
     void layoutPicture();
     void changed();
@@ -78,6 +79,7 @@ class DesignForm : public QWidget {
     QLabel* picCoord_ = nullptr;
     QLabel* picTrans_ = nullptr;
     QLabel* helpCard_ = nullptr;
+    bool toolBusy_ = false;  // a Toolbar1 command is running
     DesignGesture gesture_;
 };
 

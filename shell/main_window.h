@@ -64,6 +64,7 @@ class MainWindow : public QMainWindow {
     // The list, name and comment dialogs; tests put scripts in their place.
     ShellDialogs& dialogs() { return dialogs_; }
     Host& host() { return host_; }
+    const std::string& programDir() const { return start_.programDir; }
     StartFlags& flags() { return flags_; }
     QAction* menuAction(const std::string& key) const { return menus_->action(key); }
     // A submenu of the bar ("mnuDraw") or a pop-up menu ("mnuPopup").

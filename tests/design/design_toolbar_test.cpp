@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "design/transform_commands.h"
+#include "tests/core/list_file_fixture.h"
 #include "tests/design/chaos_fixture.h"
 
 namespace quillane::testing {
@@ -98,6 +99,32 @@ TEST_F(DesignToolbarChaos, InChaosGameModeTheRecipeTurnsAsRotateCGDesign) {
     ToolbarRotate(wb, -120);
     EXPECT_FLOAT_EQ(wb.CurrentIFS.Angle[0], -110);
     EXPECT_EQ(wb.menu("mnuUndo").caption, "&Undo Rotation");
+}
+
+TEST(DesignHelp, AMissingHelpFileSaysSoInTheHelpErrorBox) {
+    TempDir dir;
+    ScriptedHost host;
+    int opened = 0;
+    EXPECT_FALSE(DesignHelp(host, dir.path(""), [&](const std::string&) { return ++opened > 0; }));
+    EXPECT_EQ(opened, 0);
+    EXPECT_EQ(host.shown(), (std::vector<ShownMessage>{
+                                {"Help Error", "The help file could not be loaded.\nMake sure that Quillanehelp.chm is in the same"}}));
+}
+
+TEST(DesignHelp, ThePresentFileIsOpenedAndAFailedOpeningIsReported) {
+    TempDir dir;
+    const std::string file = dir.write("Quillane Help.chm", "help");
+    ScriptedHost host;
+    std::string asked;
+    EXPECT_TRUE(DesignHelp(host, dir.path(""), [&](const std::string& path) {
+        asked = path;
+        return true;
+    }));
+    EXPECT_EQ(asked, file);
+    EXPECT_TRUE(host.shown().empty());
+    EXPECT_FALSE(DesignHelp(host, dir.path(""), [](const std::string&) { return false; }));
+    ASSERT_EQ(host.shown().size(), 1u);
+    EXPECT_EQ(host.shown()[0].title, "Help Error");
 }
 
 }  // namespace

@@ -273,5 +273,12 @@ TEST_F(DesignToolbarTest, NoPopupWhileDrawingThePolygon) {
     EXPECT_FALSE(frame->state().design.Poly.PolygonMode);
 }
 
+TEST_F(DesignToolbarTest, HelpWithoutAHelpFileShowsTheHelpErrorBox) {
+    button("help")->trigger();
+    ASSERT_EQ(host.shown().size(), 1u);
+    EXPECT_EQ(host.shown()[0].title, "Help Error");
+    EXPECT_EQ(host.shown()[0].text, DesignHelpErrorText);
+}
+
 }  // namespace
 }  // namespace quillane::testing
