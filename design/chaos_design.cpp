@@ -23,7 +23,7 @@ namespace quillane {
 namespace {
 
 // The Toolbar1 buttons that mean nothing for fixed points: "polygon" and "fixed points".
-constexpr int PolygonButton = 9, FixedPointsButton = 11;
+constexpr int PolygonButton = 8, FixedPointsButton = 10;
 
 std::array<std::string, 5> stepsOf(const IFSEntry& ifs, int i) {
     std::array<std::string, 5> s;
@@ -131,6 +131,8 @@ void SetupIFSDesign(Workbench& wb) {
     wb.DesignCaption = DesignIFSCaption;
     wb.DesignMode = 0;
     wb.Menu.setEnabled(FrameButtonKey(12), false);
+    wb.Menu.setEnabled(DesignToolbarKey(PolygonButton), true);
+    wb.Menu.setEnabled(DesignToolbarKey(FixedPointsButton), true);
     wb.Menu.setEnabled("mnuProbCalc", true);
     wb.IFSModified = false;
     wb.ChangeCount = 0;

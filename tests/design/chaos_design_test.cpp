@@ -79,6 +79,15 @@ TEST_F(ChaosDesign, SetupIFSDesignGoesBackToIFSMode) {
     EXPECT_FALSE(wb.IFSModified);
 }
 
+TEST_F(ChaosDesign, OnlyThePolygonAndFixedPointButtonsAreOffForFixedPoints) {
+    for (int b = 8; b <= 11; ++b)
+        EXPECT_EQ(wb.menu(DesignToolbarKey(b)).enabled, b == 9 || b == 11) << "button " << b;
+    EXPECT_TRUE(wb.menu(DesignToolbarKey(1)).enabled) << "new";
+    EXPECT_TRUE(wb.menu(DesignToolbarKey(12)).enabled) << "lines";
+    SetupIFSDesign(wb);
+    for (int b = 8; b <= 11; ++b) EXPECT_TRUE(wb.menu(DesignToolbarKey(b)).enabled) << "button " << b;
+}
+
 TEST_F(ChaosDesign, TheWayBackPutsTheIFSCaptionsBack) {
     ASSERT_EQ(wb.menu("mnuOpen").caption, "&Open Chaos Game File...");
     SetupIFSDesign(wb);

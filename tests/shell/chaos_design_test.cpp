@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
+#include <map>
 #include <filesystem>
 
 #include "shell/chaos_design_area.h"
@@ -51,6 +53,14 @@ TEST_F(ChaosDesignWindow, NewChaosGameShowsThePictureOfFixedPoints) {
     EXPECT_EQ(design().picCGDesign.point(ref.x, ref.y), Black);
     EXPECT_EQ(design().picCGDesign.point(0, 0), wb().FunctionColor[0]);
     EXPECT_EQ(item("mnuSaveIFSas")->text().toStdString(), "Save Chaso Game Fractals List &As...");
+    // Of the view buttons only the two that mean nothing for fixed points are off.
+    std::map<std::string, bool> enabled;
+    for (QAction* a : form().toolbar()->actions()) enabled[a->text().toStdString()] = a->isEnabled();
+    EXPECT_FALSE(enabled.at("polygon"));
+    EXPECT_FALSE(enabled.at("fixed points"));
+    EXPECT_TRUE(enabled.at("axes"));
+    EXPECT_TRUE(enabled.at("grid"));
+    EXPECT_TRUE(enabled.at("zoom in"));
 }
 
 TEST_F(ChaosDesignWindow, CtrlClickAddsAFixedPointAndDraggingMovesIt) {
