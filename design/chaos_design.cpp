@@ -106,6 +106,7 @@ bool mnuNewChaosGame_Click(Workbench& wb, Host& host) {
     for (const char* key : {"mnuRotation", "mnuMatrix", "mnuCodeMatrixFormat"})
         wb.Menu.setChecked(key, false);
     InitializeIFS(wb.CurrentIFS);
+    wb.lblComment.clear();  // the new game has no comments
     const WorldWindow& w = wb.DesignWindow;
     wb.ReferencePoint = {(w.xmin + w.xmax) / 2, (w.ymin + w.ymax) / 2, True16};
     wb.SelectedIFS = 0;

@@ -98,6 +98,7 @@ ChaosDesignArea* AttachChaosDesignArea(DesignForm& form, AppState& state, Host& 
             form.refresh();
     };
     form.onRefresh = [area, &form] { area->refresh(form.picture()); };
+    form.setChaosPicture(area);
     area->refresh(form.picture());
     return area;
 }

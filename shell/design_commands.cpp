@@ -32,7 +32,7 @@ void showDesignWindow(MainWindow& frame) {
         frame.mdiArea()->setActiveSubWindow(sub);
     }
     form->show();
-    form->picture()->setFocus();
+    form->focusPicture();
 }
 
 // frmRotate, or frmRotateCG in chaos game mode, with `direction` preset; OK rotates the selection.

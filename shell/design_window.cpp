@@ -191,7 +191,12 @@ void DesignForm::runToolCommand(const std::string& command, bool focusBack) {
     toolBusy_ = true;
     if (runCommand) runCommand(command);
     toolBusy_ = false;
-    if (focusBack && picdesign_) picdesign_->setFocus();
+    if (focusBack) focusPicture();
+}
+
+void DesignForm::focusPicture() {
+    QWidget* shown = state_.wb.DesignMode == 1 && picCGDesign_ ? picCGDesign_ : picdesign_;
+    if (shown) shown->setFocus();
 }
 
 // Item k of the drop-down runs the array command `command`(k); the button keeps its own click.

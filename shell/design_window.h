@@ -38,6 +38,10 @@ class DesignForm : public QWidget {
     // Shows the pictures, the caption, the status boxes and the toolbar as the state has them.
     void refresh();
     DesignPicture* picture() const { return picdesign_; }
+    // The chaos game picture that lies over picdesign in that mode.
+    void setChaosPicture(QWidget* picture) { picCGDesign_ = picture; }
+    // Gives the keyboard to the picture the mode shows.
+    void focusPicture();
     QToolBar* toolbar() const { return Toolbar1_; }
     QLabel* coordBox() const { return picCoord_; }
     QLabel* transBox() const { return picTrans_; }
@@ -79,6 +83,7 @@ class DesignForm : public QWidget {
     QLabel* picCoord_ = nullptr;
     QLabel* picTrans_ = nullptr;
     QLabel* helpCard_ = nullptr;
+    QWidget* picCGDesign_ = nullptr;
     bool toolBusy_ = false;  // a Toolbar1 command is running
     DesignGesture gesture_;
 };

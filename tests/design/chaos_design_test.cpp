@@ -29,6 +29,14 @@ TEST_F(ChaosDesign, ANewChaosGameShowsOneFixedPointAndTheReferencePointInTheMidd
     EXPECT_EQ(wb.DesignCaption, "Design (Chaos Game)");
 }
 
+TEST_F(ChaosDesign, ANewChaosGameDropsTheFormerComment) {
+    SetupIFSDesign(wb);
+    wb.lblComment = "three half-size copies of itself";
+    ASSERT_TRUE(mnuNewChaosGame_Click(wb, host));
+    EXPECT_EQ(wb.lblComment, "");
+    EXPECT_EQ(wb.CurrentIFS.nComments, 0);
+}
+
 TEST_F(ChaosDesign, NewChaosGameSetsItsCaptionsAsWritten) {
     EXPECT_EQ(wb.menu("mnuSaveCurrent").caption, "Save &Current Chaos Game to File..");
     EXPECT_EQ(wb.menu("mnuSaveIFS").caption, "&Save Chaos Game Fractals List");

@@ -159,6 +159,22 @@ TEST_F(DesignToolbarTest, OneHundredTwentyRightInChaosGameModeTurnsTheRecipe) {
     EXPECT_EQ(undoCaption(), "&Undo Rotation");
 }
 
+TEST_F(DesignToolbarTest, AfterAnItemTheChaosGamePictureHasTheKeys) {
+    enterChaosGame();
+    newCGFixedPoint(wb(), frame->host(), false, 0.8f, 0.2f);
+    frame->refreshWindows();
+    selectByDigit(Qt::Key_1);
+    form().setFocus();
+    dropItem("rotate left", "30 left")->trigger();
+    ASSERT_EQ(QApplication::focusWidget(), chaosArea());
+    // The next digit goes to the picture that shows the points, as the person types it.
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_2);
+    EXPECT_EQ(wb().SelectedMap, 1);
+    dropItem("rotate left", "30 left")->trigger();
+    EXPECT_FLOAT_EQ(wb().CurrentIFS.Angle[0], 30);
+    EXPECT_FLOAT_EQ(wb().CurrentIFS.Angle[1], 30);
+}
+
 TEST_F(DesignToolbarTest, ThePlainRotateButtonTurnsTheRecipeInChaosGameMode) {
     enterChaosGame();
     selectByDigit(Qt::Key_1);
