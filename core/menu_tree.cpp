@@ -362,9 +362,9 @@ const std::vector<ToolbarButton>& MainToolbarButtons() {
         {"open", "Open IFS File", 2},
         {"save", "Save IFS Fractals List", 3},
         {"print", "Print", 5},
-        {"undo", "Undo", 7},
-        {"copy", "Copy", 8},
-        {"paste", "Paste", 9},
+        {"copy", "Copy", 6},
+        {"paste", "Paste", 7},
+        {"undo", "Undo", 8},
         {"matrix", "Matrix Compact Form", 10},
         {"rotation", "Scale/Rotation Form", 11},
         {"fixed point", "Fixed Point Form", 12},
@@ -376,7 +376,7 @@ const std::vector<ToolbarButton>& MainToolbarButtons() {
 }
 
 std::string FrameButtonKey(int number) {
-    return MenuTable::key("Toolbar", number);
+    return MenuTable::key("tbrMain", number);
 }
 
 void InitializeMenuState(MenuTable& table) {
@@ -392,8 +392,9 @@ void InitializeMenuState(MenuTable& table) {
     for (const char* key : {"mnuNames(0)", "mnuNames(2)", "mnuNames(3)"}) table.setEnabled(key, false);
     for (const char* key : {"mnuStop", "mnuDrawImageSize", "mnuUndo"}) table.setEnabled(key, false);
     for (const ToolbarButton& b : MainToolbarButtons()) table.setCaption(FrameButtonKey(b.number), b.toolTip);
-    // The fixed point form button waits for chaos game mode.
+    // The fixed point form button waits for chaos game mode, Stop for a drawing.
     table.setEnabled(FrameButtonKey(12), false);
+    table.setEnabled(FrameButtonKey(15), false);
     // The program starts in Random mode, where these deterministic commands are off.
     for (const char* key :
          {"mnuFileSaveAnimGif", "mnuDrawAddFigureItems", "mnuDrawDetColors", "mnuDrawOverlay"})

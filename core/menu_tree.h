@@ -33,7 +33,7 @@ const std::vector<MenuNode>& PopupMenus();
 struct ToolbarButton {
     std::string key;
     std::string toolTip;
-    int number = 0;  // the button's entry "Toolbar(number)" in the menu table; separators count
+    int number = 0;  // the button's entry "tbrMain(number)" in the menu table; a gap is a separator
 };
 
 const std::vector<ToolbarButton>& MainToolbarButtons();

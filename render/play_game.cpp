@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "core/menu_tree.h"
 #include "core/numbers.h"
 #include "render/fractal_view.h"
 #include "render/map_choice.h"
@@ -14,8 +15,8 @@ namespace {
 
 void switchCommandsForRun(Workbench& wb) {
     MenuTable& m = wb.Menu;
-    m.setEnabled("tbrMain(14)", false);
-    m.setEnabled("tbrMain(15)", true);
+    m.setEnabled(FrameButtonKey(14), false);
+    m.setEnabled(FrameButtonKey(15), true);
     m.setCaption("Toolbar1(1)", "Stop");
     m.setEnabled("mnuStop", true);
     m.setEnabled("mnuSaveFractal", false);
@@ -200,8 +201,8 @@ void FinishPlayGame(Workbench& wb, FractalPictures& pics) {
     m.setEnabled("mnuOpen", true);
     wb.FractalWindowCaption = wb.FractalCaption;
     m.setEnabled("mnuClear", true);
-    m.setEnabled("tbrMain(14)", true);
-    m.setEnabled("tbrMain(15)", false);
+    m.setEnabled(FrameButtonKey(14), true);
+    m.setEnabled(FrameButtonKey(15), false);
     m.setCaption("Toolbar1(1)", "Draw");
     for (const char* k : {"mnuDrawZoom", "mnuZoom", "mnuDrawShift", "mnuDrawRestore", "mnuDesign"})
         m.setEnabled(k, true);

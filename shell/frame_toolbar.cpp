@@ -203,9 +203,10 @@ FrameToolbar::FrameToolbar(const Workbench& wb, Run run, HasCommand hasCommand, 
     setObjectName("Toolbar");
     setMovable(false);
     setIconSize(QSize(IconSide, IconSide));
+    int last = 0;
     for (const ToolbarButton& b : MainToolbarButtons()) {
-        if (b.key == "print" || b.key == "undo" || b.key == "matrix" || b.key == "draw" || b.key == "help")
-            addSeparator();
+        if (b.number > last + 1) addSeparator();
+        last = b.number;
         QAction* action = addAction(ToolbarIcon(b.key), QString::fromStdString(b.toolTip));
         action->setObjectName(QString::fromStdString("Toolbar(" + b.key + ")"));
         action->setToolTip(QString::fromStdString(b.toolTip));

@@ -305,9 +305,13 @@ TEST(Toolbar, ButtonsRunInOrderWithTheirTips) {
         keys.push_back(button.key);
         EXPECT_FALSE(button.toolTip.empty()) << button.key;
     }
-    EXPECT_EQ(keys, (std::vector<std::string>{"new", "open", "save", "print", "undo", "copy", "paste",
+    EXPECT_EQ(keys, (std::vector<std::string>{"new", "open", "save", "print", "copy", "paste", "undo",
                                               "matrix", "rotation", "fixed point", "draw", "stop", "help"}));
     EXPECT_EQ(MainToolbarButtons()[7].toolTip, "Matrix Compact Form");
+    // The numbers the program's commands use: undo 8, the forms 10 to 12, draw 14 and stop 15.
+    std::vector<int> numbers;
+    for (const ToolbarButton& button : MainToolbarButtons()) numbers.push_back(button.number);
+    EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3, 5, 6, 7, 8, 10, 11, 12, 14, 15, 17}));
 }
 
 TEST(InitialMenuState, EveryItemIsWrittenWithItsCaption) {
@@ -320,11 +324,14 @@ TEST(InitialMenuState, EveryItemIsWrittenWithItsCaption) {
     // and one entry per frame toolbar button, its tool tip as the caption
     EXPECT_EQ(table.items().size(), AllNodes().size() + MainToolbarButtons().size());
     EXPECT_EQ(table("mnuOpen"), (MenuItemState{"&Open IFS File...", false, true, true}));
-    EXPECT_EQ(table("Toolbar(1)").caption, "New IFS");
-    EXPECT_EQ(table("Toolbar(2)").caption, "Open IFS File");
-    EXPECT_EQ(table("Toolbar(12)").caption, "Fixed Point Form");
-    EXPECT_FALSE(table("Toolbar(12)").enabled) << "the fixed point form belongs to chaos game mode";
-    EXPECT_TRUE(table("Toolbar(11)").enabled);
+    EXPECT_EQ(table("tbrMain(1)").caption, "New IFS");
+    EXPECT_EQ(table("tbrMain(2)").caption, "Open IFS File");
+    EXPECT_EQ(table("tbrMain(8)").caption, "Undo");
+    EXPECT_EQ(table("tbrMain(12)").caption, "Fixed Point Form");
+    EXPECT_FALSE(table("tbrMain(12)").enabled) << "the fixed point form belongs to chaos game mode";
+    EXPECT_FALSE(table("tbrMain(15)").enabled) << "Stop waits for a drawing";
+    EXPECT_TRUE(table("tbrMain(14)").enabled);
+    EXPECT_TRUE(table("tbrMain(11)").enabled);
 }
 
 TEST(InitialMenuState, StartsWithTheProgramsChecks) {
@@ -371,7 +378,7 @@ TEST(InitialMenuState, ReportsEveryWriteToTheObserver) {
     InitializeMenuState(table);
     EXPECT_EQ(heard.size(), AllNodes().size() + MainToolbarButtons().size());
     EXPECT_TRUE(heard.count("mnuStop"));
-    EXPECT_TRUE(heard.count("Toolbar(12)"));
+    EXPECT_TRUE(heard.count("tbrMain(12)"));
 }
 
 }  // namespace

@@ -79,6 +79,22 @@ TEST_F(FractalWindowTest, StopFromTheMenuAndDrawAgainContinues) {
     EXPECT_EQ(fractal().findChild<QLabel*>("picCount")->text().toStdString(), "");
 }
 
+TEST_F(FractalWindowTest, TheFrameButtonsSwapDrawAndStopForTheRunOnly) {
+    FrameToolbar* bar = frame->toolbar();
+    EXPECT_TRUE(bar->button("draw")->isEnabled());
+    EXPECT_FALSE(bar->button("stop")->isEnabled());
+    bool drawDuring = true, stopDuring = false;
+    host.onYield = [&](int) {
+        drawDuring = bar->button("draw")->isEnabled();
+        stopDuring = bar->button("stop")->isEnabled();
+    };
+    drawPoints(2000);
+    EXPECT_FALSE(drawDuring);
+    EXPECT_TRUE(stopDuring);
+    EXPECT_TRUE(bar->button("draw")->isEnabled());
+    EXPECT_FALSE(bar->button("stop")->isEnabled());
+}
+
 TEST_F(FractalWindowTest, PageDownZoomsOutPageUpZoomsInAndUndoGoesBackOneStep) {
     drawPoints(2000);
     // A zoom redraws a started drawing until it is stopped: stop each redraw at once.

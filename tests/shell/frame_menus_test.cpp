@@ -2,6 +2,7 @@
 #include <QMenuBar>
 
 #include "core/fractal_list.h"
+#include "design/undo.h"
 #include "shell/functions_window.h"
 #include "tests/shell/frame_fixture.h"
 
@@ -259,8 +260,11 @@ TEST_F(FrameTest, TheUndoButtonIsEnabledAsTheItemIs) {
     frame->setCommand("mnuUndo", [] {});
     QAction* undo = frame->toolbar()->button("undo");
     EXPECT_FALSE(undo->isEnabled());
-    wb().Menu.setEnabled("mnuUndo", true);
+    OfferUndo(wb());
     EXPECT_TRUE(undo->isEnabled());
+    // The item rules: an undo the menu does not offer is not offered by the button either.
+    wb().Menu.setEnabled("mnuUndo", false);
+    EXPECT_FALSE(undo->isEnabled());
 }
 
 TEST_F(FrameTest, ChaosGameModeRenamesTheFirstTwoButtonsAndEnablesTheFixedPointButton) {
