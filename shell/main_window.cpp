@@ -144,7 +144,16 @@ void MainWindow::buildChildren() {
     };
     children_[2] = mdi_->addSubWindow(design_);
     // A child's close box only hides it: the Window menu brings it back.
-    for (QMdiSubWindow* child : children_) child->setAttribute(Qt::WA_DeleteOnClose, false);
+    for (QMdiSubWindow* child : children_) {
+        child->setAttribute(Qt::WA_DeleteOnClose, false);
+        // The toolkit's close keys include Ctrl+W, which is Scale to Fit here: two owners of a key
+        // leave it to neither.
+        if (QMenu* system = child->systemMenu())
+            for (QAction* action : system->actions()) {
+                QList<QKeySequence> keys = action->shortcuts();
+                if (keys.removeAll(QKeySequence(Qt::CTRL | Qt::Key_W)) > 0) action->setShortcuts(keys);
+            }
+    }
     placeChildren();
     connect(mdi_, &QMdiArea::subWindowActivated, this, &MainWindow::childActivated);
 }

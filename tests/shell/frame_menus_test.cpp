@@ -1,5 +1,8 @@
 #include <QHelpEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QTest>
 
 #include "core/fractal_list.h"
 #include "design/undo.h"
@@ -298,6 +301,34 @@ TEST_F(FrameTest, ShowToolTipsTurnsTheTipsOfAllWindowsOffAndOn) {
     item("mnuEditToolTips")->trigger();
     EXPECT_TRUE(item("mnuEditToolTips")->isChecked());
     EXPECT_FALSE(frame->eventFilter(inChild, &tip));
+}
+
+}  // namespace
+}  // namespace quillane::testing
+
+namespace quillane::testing {
+namespace {
+
+TEST_F(FrameTest, CtrlWScalesToFitWhicheverChildIsActive) {
+    open();
+    int runs = 0;
+    frame->setCommand("mnuCalcScale", [&runs] { ++runs; });
+    frame->activateWindow();
+    QApplication::setActiveWindow(frame.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(frame.get()));
+    int opens = 0;
+    frame->setCommand("mnuOpen", [&opens] { ++opens; });
+    QTest::keyClick(frame->childWindow(1)->widget(), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(opens, 1);
+    for (int child = 0; child < 3; ++child) {
+        QMdiSubWindow* sub = frame->childWindow(child);
+        frame->mdiArea()->setActiveSubWindow(sub);
+        QApplication::processEvents();
+        QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : sub->widget();
+        QTest::keyClick(target, Qt::Key_W, Qt::ControlModifier);
+        EXPECT_EQ(runs, child + 1) << "child " << child;
+        EXPECT_TRUE(sub->isVisible()) << "child " << child;
+    }
 }
 
 }  // namespace
