@@ -392,6 +392,8 @@ void InitializeMenuState(MenuTable& table) {
     for (const char* key : {"mnuNames(0)", "mnuNames(2)", "mnuNames(3)"}) table.setEnabled(key, false);
     for (const char* key : {"mnuStop", "mnuDrawImageSize", "mnuUndo"}) table.setEnabled(key, false);
     for (const ToolbarButton& b : MainToolbarButtons()) table.setCaption(FrameButtonKey(b.number), b.toolTip);
+    // The program starts in IFS mode: the chaos game's moves window is not offered.
+    table.setVisible("mnuDesignCGMoves", false);
     // The fixed point form button waits for chaos game mode, Stop for a drawing.
     table.setEnabled(FrameButtonKey(12), false);
     table.setEnabled(FrameButtonKey(15), false);

@@ -134,6 +134,7 @@ void SetupIFSDesign(Workbench& wb) {
     wb.Menu.setEnabled(FrameButtonKey(12), false);
     wb.Menu.setEnabled(DesignToolbarKey(PolygonButton), true);
     wb.Menu.setEnabled(DesignToolbarKey(FixedPointsButton), true);
+    CGDesignMenus(wb, true);
     wb.Menu.setEnabled("mnuProbCalc", true);
     wb.IFSModified = false;
     wb.ChangeCount = 0;

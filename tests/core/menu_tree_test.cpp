@@ -369,6 +369,8 @@ TEST(InitialMenuState, OnlyTheMainWindowsAndNoRecentFilesAreListed) {
     for (int i = 0; i < 6; ++i) EXPECT_FALSE(table(MenuTable::key("mnuMRU", i)).visible) << i;
     for (int i = 1; i <= 3; ++i) EXPECT_TRUE(table(MenuTable::key("mnuWinAction", i)).visible) << i;
     EXPECT_TRUE(table("mnuFileClearMRU").visible);
+    EXPECT_FALSE(table("mnuDesignCGMoves").visible) << "a chaos game command";
+    EXPECT_TRUE(table("mnuDesignScale").visible);
 }
 
 TEST(InitialMenuState, ReportsEveryWriteToTheObserver) {

@@ -99,6 +99,10 @@ TEST_F(ChaosDesign, OnlyThePolygonAndFixedPointButtonsAreOffForFixedPoints) {
 TEST_F(ChaosDesign, TheWayBackPutsTheIFSCaptionsBack) {
     ASSERT_EQ(wb.menu("mnuOpen").caption, "&Open Chaos Game File...");
     SetupIFSDesign(wb);
+    for (const char* key : {"mnuDesignScale", "mnuDesignRotate", "mnuDesignFlipHor", "mnuDesignFlipVert",
+                            "mnuDesignStretch"})
+        EXPECT_TRUE(wb.menu(key).visible) << key;
+    EXPECT_FALSE(wb.menu("mnuDesignCGMoves").visible);
     EXPECT_EQ(wb.menu("mnuSaveCurrent").caption, "Save &Current IFS to File...");
     EXPECT_EQ(wb.menu("mnuSaveIFS").caption, "&Save IFS Fractals List");
     EXPECT_EQ(wb.menu("mnuSaveIFSas").caption, "Save IFS Fractals List &As...");
