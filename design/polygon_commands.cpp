@@ -172,7 +172,13 @@ void PolygonModeClick(Workbench& wb, DesignPictures& d, float x, float y, bool S
         if (Snap) bothLine(wb, d, lastX, lastY, x, y, DrawMode::Invert);
         bothLine(wb, d, lastX, lastY, p.RubberEndX, p.RubberEndY, DrawMode::CopyPen);
     }
-    if (wb.menu("mnuDesignAxes").checked) DrawDesignAxes(wb, d);
+    // The vertex may have cut the axes: they are drawn over, not inverted, and the band goes on
+    // inverting.
+    if (wb.menu("mnuDesignAxes").checked) {
+        for (RasterSurface* s : {&d.picdesign, &d.picCGDesign}) s->setDrawMode(DrawMode::CopyPen);
+        DrawDesignAxes(wb, d);
+        for (RasterSurface* s : {&d.picdesign, &d.picCGDesign}) s->setDrawMode(DrawMode::Invert);
+    }
     wb.UserPolygon = p.UserPolygon;
 }
 

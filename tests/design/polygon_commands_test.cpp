@@ -144,6 +144,22 @@ TEST_F(PolygonCommands, ClicksDrawThePathAndAClickNearTheStartClosesIt) {
     EXPECT_EQ(wb.UserPolygon.nPoints, 4);
 }
 
+TEST_F(PolygonCommands, TheAxesStayThroughEveryClick) {
+    ASSERT_TRUE(wb.menu("mnuDesignAxes").checked);
+    mnuDrawPoly_Click(wb, d, "");
+    ASSERT_EQ(at(0.6, 0), wb.DesignAxisColor);
+    const std::pair<float, float> vertices[] = {{0.2f, 0.2f}, {0.8f, 0.3f}, {0.5f, 0.8f}, {0.3f, 0.6f}};
+    for (const auto& [x, y] : vertices) {
+        PolygonModeMove(wb, d, x, y);
+        PolygonModeClick(wb, d, x, y, false);
+        EXPECT_EQ(at(0.6, 0), wb.DesignAxisColor) << "after the vertex " << x << ", " << y;
+        EXPECT_EQ(at(0, 0.6), wb.DesignAxisColor) << "after the vertex " << x << ", " << y;
+    }
+    // The band still inverts: moving it away leaves the edge between the vertices alone.
+    PolygonModeMove(wb, d, 0.9f, 0.9f);
+    EXPECT_EQ(at(0.65, 0.55), Black);
+}
+
 TEST_F(PolygonCommands, MovingTheRubberBandLeavesNoTrace) {
     wb.Menu.setChecked("mnuDesignAxes", false);
     mnuDrawPoly_Click(wb, d, "");
