@@ -137,6 +137,28 @@ TEST_F(ChaosDesignWindow, ScaleAndRotateOpenTheMovesWindowInChaosGameMode) {
     EXPECT_EQ(wb().ChangeCount, 0);
 }
 
+TEST_F(ChaosDesignWindow, AppendingAndSavingAChaosGameListFromTheMenus) {
+    host.fileNames.push_back(dir.write("pair.chg", "Pair {\nS 0.5 0 0.5 0 0\nS 0.5 0 0.5 1 0\n}\n"));
+    item("mnuOpen")->trigger();
+    host.fileNames.push_back(dir.write("one.chg", "Turn {\nSR 0.5 90 1 0.25 0.25\n}\n"));
+    item("mnuFileAppend")->trigger();
+    EXPECT_EQ(listedFractals(), (std::vector<std::string>{"Pair", "Turn"}));
+    // Save As of a chaos game list tests for ".ifs" and its writer turns that into ".chg".
+    host.fileNames.push_back(dir.path("both"));
+    item("mnuSaveIFSas")->trigger();
+    const std::string out = dir.path("both.chg");
+    ASSERT_TRUE(std::filesystem::exists(out));
+    EXPECT_EQ(host.dialogs().back().title, "Save Chaos Game file");
+    host.fileNames.push_back(out);
+    item("mnuOpen")->trigger();
+    EXPECT_EQ(listedFractals(), (std::vector<std::string>{"Pair", "Turn"}));
+    EXPECT_EQ(wb().CurrentIFS.Name, "Pair");
+    frame->runCommand("mnuNames(6)");
+    EXPECT_EQ(wb().CurrentIFS.nMaps, 1);
+    EXPECT_EQ(wb().CurrentIFS.Step[2][0], "R");
+    EXPECT_FLOAT_EQ(wb().CurrentIFS.Angle[0], 90);
+}
+
 TEST_F(ChaosDesignWindow, AChaosGameFileMakesTheRoundTripThroughTheWindows) {
     const std::string in = dir.write("pair.chg", "Pair {\nS 0.5 0 0.5 0 0\nS 0.5 0 0.5 1 0\n}\n");
     host.fileNames.push_back(in);
