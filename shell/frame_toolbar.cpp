@@ -5,6 +5,7 @@
 #include <QPixmap>
 
 #include "core/menu_tree.h"
+#include "design/undo.h"
 
 namespace quillane {
 
@@ -82,6 +83,13 @@ void drawUndo(QPainter& p) {
     p.drawPath(path);
     p.setPen(QPen(QColor(30, 100, 170), 1));
     arrowHead(p, {3, 9}, {9, 4}, {9, 14});
+}
+
+// The undo arrow turned the other way.
+void drawRedo(QPainter& p) {
+    p.translate(IconSide, 0);
+    p.scale(-1, 1);
+    drawUndo(p);
 }
 
 void drawCopy(QPainter& p) {
@@ -179,6 +187,7 @@ QIcon ToolbarIcon(const std::string& key) {
         {"save", drawSave},
         {"print", drawPrint},
         {"undo", drawUndo},
+        {"redo", drawRedo},
         {"copy", drawCopy},
         {"paste", drawPaste},
         {"matrix", drawMatrix},
@@ -248,6 +257,13 @@ void FrameToolbar::sync() {
         const MenuItemState& entry = table(FrameButtonKey(b.number));
         action->setEnabled(entry.enabled && table(command).enabled && hasCommand_(command));
         if (b.key != "matrix") action->setToolTip(QString::fromStdString(entry.caption));
+    }
+    // The undo button offers a redo with the arrow turned.
+    const bool redo = UndoButtonImage(wb_) == UndoButtonImageRedo;
+    QAction* undo = button("undo");
+    if (undo->property("redo").toBool() != redo) {
+        undo->setIcon(ToolbarIcon(redo ? "redo" : "undo"));
+        undo->setProperty("redo", redo);
     }
     const bool functionForm = table("mnuCodeMatrixFormat").checked;
     button("matrix")->setChecked(table("mnuMatrix").checked || functionForm);

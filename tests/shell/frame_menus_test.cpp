@@ -6,6 +6,7 @@
 
 #include "core/fractal_list.h"
 #include "design/undo.h"
+#include "render/fractal_view.h"
 #include "shell/functions_window.h"
 #include "tests/shell/frame_fixture.h"
 
@@ -285,6 +286,27 @@ TEST_F(FrameTest, ChaosGameModeRenamesTheFirstTwoButtonsAndEnablesTheFixedPointB
     wb().Menu.setEnabled(FrameButtonKey(12), false);
     EXPECT_TRUE(wb().menu("mnuCodeFP").enabled);
     EXPECT_FALSE(bar->button("fixed point")->isEnabled());
+}
+
+TEST_F(FrameTest, TheUndoButtonTurnsItsArrowWhileItOffersARedo) {
+    open();
+    QAction* undo = frame->toolbar()->button("undo");
+    const QImage undoImage = undo->icon().pixmap(24, 24).toImage();
+    SetUndoCaption(wb(), RedoMoveCaption);
+    OfferUndo(wb());
+    const QImage redoImage = undo->icon().pixmap(24, 24).toImage();
+    EXPECT_NE(redoImage, undoImage);
+    // The arrowhead stands on the left for undo and on the right for redo.
+    auto ink = [](const QImage& image, int from, int to) {
+        int n = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = from; x < to; ++x) n += qAlpha(image.pixel(x, y)) > 128;
+        return n;
+    };
+    EXPECT_GT(ink(undoImage, 0, 8), ink(undoImage, 16, 24));
+    EXPECT_GT(ink(redoImage, 16, 24), ink(redoImage, 0, 8));
+    ResetUndoMenu(wb());
+    EXPECT_EQ(undo->icon().pixmap(24, 24).toImage(), undoImage);
 }
 
 TEST_F(FrameTest, ShowToolTipsTurnsTheTipsOfAllWindowsOffAndOn) {
