@@ -50,9 +50,10 @@ struct Scan {
     DeterministicState* det = nullptr;
     uint32_t back = 0;
     uint32_t backOpaque = 0;
-    // Colour mode 0: the map (plus 1) that set each pixel of this level, 0 for none, and whether map i
-    // may paint over a pixel set by map j - 1: allowed[i * (MaxMaps + 1) + j].
-    std::vector<uint8_t> owner;
+    // Colour mode 0: the map (plus 1) that set each pixel of this level, 0 for none (the picture's
+    // ScanOwners), and whether map i may paint over a pixel set by map j - 1:
+    // allowed[i * (MaxMaps + 1) + j].
+    uint8_t* owner = nullptr;
     std::vector<uint8_t> allowed;
     // The set columns of the row being scanned.
     std::vector<int> setColumns;
@@ -120,12 +121,17 @@ Color gradientColor(const Scan& s, float x, float y) {
 // The priority rule of mode 0 over the colours of the maps, for every pair of maps.
 void preparePriority(Scan& s) {
     const LevelMaps& m = *s.maps;
-    s.owner.assign(static_cast<size_t>(s.dstW) * s.dstH, 0);
+    std::vector<uint8_t>& owners = s.det->ScanOwners;
+    owners.assign(static_cast<size_t>(s.dstW) * s.dstH, 0);
+    s.owner = owners.data();
     s.allowed.assign(static_cast<size_t>(MaxMaps) * (MaxMaps + 1), 0);
     for (int i = 0; i < m.n; ++i) {
         uint8_t* row = s.allowed.data() + static_cast<size_t>(i) * (MaxMaps + 1);
         row[0] = 1;
         for (int j = 0; j < m.n; ++j) row[j + 1] = mayPaint(m, i, m.color[j] & RgbMask, s.back);
+        // A map painting over its own pixel writes what is there; allowing it keeps the branch
+        // predictable where a scattered source sets a place once or twice by chance.
+        row[i + 1] = 1;
     }
 }
 

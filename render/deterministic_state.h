@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/colors.h"
 #include "core/workbench.h"
@@ -56,6 +57,10 @@ struct DeterministicState {
     DetGradientColor GradientColor;
     // The clipboard's bitmap for the clipboard figure; nothing when it holds none.
     std::function<std::optional<RasterSurface>()> ClipboardBitmap;
+
+    // The scan's map-per-pixel table of the colour priority rule, kept from level to level so that a
+    // level reuses its memory instead of having fresh pages zeroed.
+    std::vector<uint8_t> ScanOwners;
 };
 
 }  // namespace quillane
