@@ -10,6 +10,7 @@
 
 #include "core/numbers.h"
 #include "core/table_editing.h"
+#include "design/design_view.h"
 #include "render/table_commands.h"
 #include "shell/functions_window.h"
 
@@ -184,10 +185,13 @@ void FunctionsWindow::commitWindow(BoxKind kind) {
     for (int k = 0; k < 4; ++k)
         texts[static_cast<size_t>(k)] = boxes[static_cast<size_t>(k)]->text().toStdString();
     committing_ = true;
-    if (kind == BoxKind::Win)
+    if (kind == BoxKind::Win) {
         txtWin_Commit(state_.wb, state_.pics, host_);
-    else
-        txtDesign_Commit(state_.wb, host_);
+    } else if (txtDesign_Commit(state_.wb, host_) == BoxCommit::Changed) {
+        // The typed window is the design window's new view.
+        ScaleDesignWindows(state_.wb, state_.design);
+        RedrawDesignView(state_.wb, state_.design);
+    }
     committing_ = false;
     for (QLineEdit* b : boxes) b->setModified(false);
     edited();

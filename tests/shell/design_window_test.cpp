@@ -1,12 +1,14 @@
 #include "shell/design_window.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QTest>
 #include <QToolBar>
 
 #include "core/initial_polygons.h"
+#include "shell/functions_window.h"
 #include "shell/main_window.h"
 #include "tests/shell/frame_fixture.h"
 
@@ -74,6 +76,21 @@ TEST_F(DesignWindowTest, AResizeKeepsTheWindowAndShowsTheAreaSizeInTheFrame) {
     EXPECT_EQ(frame->toolbar()->txtFractalSize()->text(), QString("%1 x %2").arg(p.width()).arg(p.height()));
     EXPECT_EQ(form().picture()->size(), QSize(p.width(), p.height()));
     EXPECT_EQ(frame->state().wb.DesignWindow, before);
+}
+
+TEST_F(DesignWindowTest, AWindowTypedIntoTheTableIsTheDesignsNewView) {
+    const int before = pixelOf(1.0, 0.0).x();
+    QLineEdit* xmax = frame->functionsWindow()->txtDesign(3);
+    xmax->setFocus();
+    xmax->selectAll();
+    QTest::keyClicks(xmax, "2");
+    QTest::keyClick(xmax, Qt::Key_Return);
+    EXPECT_FLOAT_EQ(frame->state().wb.DesignWindow.xmax, 2.0f);
+    const int after = pixelOf(1.0, 0.0).x();
+    EXPECT_LT(after, before) << "x = 1 moves left when the view widens";
+    // The view reaches x = 2 at the right edge.
+    EXPECT_NEAR(design().picdesign.pixelsToWorldX(design().picdesign.width()) + design().picdesign.scaleLeft(), 2.0,
+                0.01);
 }
 
 TEST_F(DesignWindowTest, PolygonModeDrivenByRealMouseEventsAndKeys) {
