@@ -20,6 +20,7 @@
 #include "design/design_view.h"
 #include "design/polygon_commands.h"
 #include "render/fractal_view.h"
+#include "shell/design_tool_icons.h"
 
 namespace quillane {
 
@@ -170,10 +171,12 @@ DesignForm::DesignForm(AppState& state, QWidget* parent) : QWidget(parent), stat
 void DesignForm::buildToolbar() {
     Toolbar1_ = new QToolBar(this);
     Toolbar1_->setObjectName("Toolbar1");
-    Toolbar1_->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    Toolbar1_->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    Toolbar1_->setIconSize(QSize(24, 24));
     for (int b = 1; b <= DesignToolbarButtons; ++b) {
         const ToolButton& button = ToolButtons[static_cast<size_t>(b - 1)];
-        QAction* a = Toolbar1_->addAction(button.key);
+        QAction* a = Toolbar1_->addAction(DesignToolIcon(button.key), button.key);
+        a->setToolTip(QString(button.key).replace(0, 1, QChar(button.key[0]).toUpper()));
         a->setObjectName(QString::fromStdString(DesignToolbarKey(b)));
         const std::string command = button.command;
         const bool help = button.key == std::string("help");

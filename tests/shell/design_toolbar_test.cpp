@@ -296,5 +296,17 @@ TEST_F(DesignToolbarTest, HelpWithoutAHelpFileShowsTheHelpErrorBox) {
     EXPECT_EQ(host.shown()[0].text, DesignHelpErrorText);
 }
 
+TEST_F(DesignToolbarTest, EveryButtonHasAPictureOfItsOwnAndItsNameAsTip) {
+    std::vector<QImage> pictures;
+    for (QAction* a : form().toolbar()->actions()) {
+        ASSERT_FALSE(a->icon().isNull()) << a->text().toStdString();
+        const QImage image = a->icon().pixmap(24, 24).toImage();
+        for (const QImage& other : pictures) EXPECT_NE(image, other) << a->text().toStdString();
+        pictures.push_back(image);
+        EXPECT_EQ(a->toolTip().toLower(), a->text()) << "the tip names the button";
+    }
+    EXPECT_EQ(pictures.size(), 15u);
+}
+
 }  // namespace
 }  // namespace quillane::testing
