@@ -2,14 +2,15 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QPixmap>
 #include <map>
+
+#include "shell/icon_painting.h"
 
 namespace quillane {
 
 namespace {
 
-constexpr int Side = 24;
+constexpr int Side = ToolIconSide;
 const QColor Ink(40, 40, 40);
 const QColor Map(30, 110, 200);
 const QColor Warn(200, 40, 40);
@@ -23,11 +24,6 @@ void orientedSquare(QPainter& p, const QTransform& t, QColor colour) {
     p.drawRect(QRectF(-5, -5, 10, 10));
     p.drawPolyline(QPolygonF({{-3, -3}, {-3, 3}, {1, 3}}));
     p.restore();
-}
-
-void arrowHead(QPainter& p, QPointF tip, QPointF a, QPointF b) {
-    p.setBrush(p.pen().color());
-    p.drawPolygon(QPolygonF({tip, a, b}));
 }
 
 void drawNew(QPainter& p) {
@@ -73,7 +69,7 @@ void drawRotate(QPainter& p, bool left) {
     p.setBrush(Qt::NoBrush);
     p.drawArc(QRectF(5, 5, 14, 14), 300 * 16, 240 * 16);
     p.setPen(QPen(Map, 1));
-    arrowHead(p, {7, 2}, {2, 9}, {11, 10});
+    PaintArrowHead(p, {7, 2}, {2, 9}, {11, 10});
 }
 
 void drawPolygon(QPainter& p) {
@@ -125,18 +121,6 @@ void drawZoom(QPainter& p, bool in) {
     if (in) p.drawLine(QPointF(9.5, 6.5), QPointF(9.5, 12.5));
 }
 
-void drawHelp(QPainter& p) {
-    p.setPen(Qt::NoPen);
-    p.setBrush(QColor(40, 90, 180));
-    p.drawEllipse(QRectF(2, 2, 20, 20));
-    QFont font = p.font();
-    font.setPixelSize(16);
-    font.setBold(true);
-    p.setFont(font);
-    p.setPen(Qt::white);
-    p.drawText(QRectF(2, 2, 20, 20), Qt::AlignCenter, "?");
-}
-
 }  // namespace
 
 QIcon DesignToolIcon(const std::string& key) {
@@ -155,17 +139,10 @@ QIcon DesignToolIcon(const std::string& key) {
         {"lines", drawLines},
         {"zoom out", [](QPainter& p) { drawZoom(p, false); }},
         {"zoom in", [](QPainter& p) { drawZoom(p, true); }},
-        {"help", drawHelp},
+        {"help", PaintHelpSign},
     };
     const auto it = painters.find(key);
-    if (it == painters.end()) return QIcon();
-    QPixmap pixmap(Side, Side);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    it->second(painter);
-    painter.end();
-    return QIcon(pixmap);
+    return it == painters.end() ? QIcon() : PaintedToolIcon(it->second);
 }
 
 }  // namespace quillane

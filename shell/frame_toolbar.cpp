@@ -6,12 +6,13 @@
 
 #include "core/menu_tree.h"
 #include "design/undo.h"
+#include "shell/icon_painting.h"
 
 namespace quillane {
 
 namespace {
 
-constexpr int IconSide = 24;
+constexpr int IconSide = ToolIconSide;
 const QColor Ink(40, 40, 40);
 
 // The one menu item behind a button whose command does not depend on the state.
@@ -38,11 +39,6 @@ void page(QPainter& p, QRectF r) {
     p.drawPath(path);
     p.drawLine(QPointF(r.right() - 5, r.top()), QPointF(r.right() - 5, r.top() + 5));
     p.drawLine(QPointF(r.right() - 5, r.top() + 5), QPointF(r.right(), r.top() + 5));
-}
-
-void arrowHead(QPainter& p, QPointF tip, QPointF a, QPointF b) {
-    p.setBrush(p.pen().color());
-    p.drawPolygon(QPolygonF({tip, a, b}));
 }
 
 void drawOpen(QPainter& p) {
@@ -82,7 +78,7 @@ void drawUndo(QPainter& p) {
     path.cubicTo(20, 18, 16, 20, 12, 20);
     p.drawPath(path);
     p.setPen(QPen(QColor(30, 100, 170), 1));
-    arrowHead(p, {3, 9}, {9, 4}, {9, 14});
+    PaintArrowHead(p, {3, 9}, {9, 4}, {9, 14});
 }
 
 // The undo arrow turned the other way.
@@ -125,7 +121,7 @@ void drawRotation(QPainter& p) {
     p.setBrush(Qt::NoBrush);
     p.drawArc(QRectF(4, 4, 16, 16), 90 * 16, 270 * 16);
     p.setPen(QPen(QColor(150, 60, 30), 1));
-    arrowHead(p, {17, 4}, {11, 0}, {11, 8});
+    PaintArrowHead(p, {17, 4}, {11, 0}, {11, 8});
 }
 
 void drawFixedPoint(QPainter& p) {
@@ -166,18 +162,6 @@ void drawStop(QPainter& p) {
     p.drawRect(QRectF(6, 10.5, 12, 3));
 }
 
-void drawHelp(QPainter& p) {
-    p.setPen(Qt::NoPen);
-    p.setBrush(QColor(40, 90, 180));
-    p.drawEllipse(QRectF(2, 2, 20, 20));
-    QFont font = p.font();
-    font.setPixelSize(16);
-    font.setBold(true);
-    p.setFont(font);
-    p.setPen(Qt::white);
-    p.drawText(QRectF(2, 2, 20, 20), Qt::AlignCenter, "?");
-}
-
 }  // namespace
 
 QIcon ToolbarIcon(const std::string& key) {
@@ -195,16 +179,10 @@ QIcon ToolbarIcon(const std::string& key) {
         {"fixed point", drawFixedPoint},
         {"draw", drawDraw},
         {"stop", drawStop},
-        {"help", drawHelp},
+        {"help", PaintHelpSign},
     };
-    QPixmap pixmap(IconSide, IconSide);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
     const auto it = painters.find(key);
-    if (it != painters.end()) it->second(painter);
-    painter.end();
-    return QIcon(pixmap);
+    return PaintedToolIcon(it == painters.end() ? nullptr : it->second);
 }
 
 FrameToolbar::FrameToolbar(const Workbench& wb, Run run, HasCommand hasCommand, QWidget* parent)
