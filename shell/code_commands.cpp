@@ -7,6 +7,7 @@
 #include "core/file_commands.h"
 #include "core/function_forms.h"
 #include "core/list_commands.h"
+#include "core/palette_files.h"
 #include "design/design_view.h"
 #include "render/list_entry_commands.h"
 #include "render/table_commands.h"
@@ -28,6 +29,19 @@ void RegisterCodeCommands(MainWindow& frame) {
     frame.setCommand("mnuCodeArrangeFP", [&s] {
         mnuCodeArrangeFP_Click(s.wb);
         DesignScale(s.wb, s.design);
+    });
+    // The colours of the function indexes; the design shows them at once.
+    frame.setCommand("mnuCodeLoadPalette", [&s, &host] {
+        if (mnuCodeLoadPalette_Click(s.wb, host)) RedrawDesignView(s.wb, s.design);
+    });
+    frame.setCommand("mnuCodeSavePalette", [&s, &host] { mnuCodeSavePalette_Click(s.wb, host); });
+    frame.setCommand("mnuSameColor", [&s] {
+        SameColor(s.wb, 0);
+        RedrawDesignView(s.wb, s.design);
+    });
+    frame.setCommand("mnuDefaultColors", [&s] {
+        DefaultColors(s.wb);
+        RedrawDesignView(s.wb, s.design);
     });
     frame.setCommand("mnuCodeRename",
                      [&frame, &s] { mnuCodeRename_Click(s.wb, frame.dialogs().frmIFSName); });

@@ -93,6 +93,25 @@ TEST_F(DesignWindowTest, AWindowTypedIntoTheTableIsTheDesignsNewView) {
                 0.01);
 }
 
+TEST_F(DesignWindowTest, SetToFunctionOneRecoloursTheDesignAtOnce) {
+    Workbench& wb = frame->state().wb;
+    const Color second = wb.FunctionColor[1];
+    auto count = [this](Color c) {
+        int n = 0;
+        const RasterSurface& p = design().picdesign;
+        for (int r = 0; r < p.height(); ++r)
+            for (int col = 0; col < p.width(); ++col) n += p.pixel(col, r) == c;
+        return n;
+    };
+    ASSERT_GT(count(second), 0);
+    item("mnuSameColor")->trigger();
+    EXPECT_EQ(wb.FunctionColor[1], wb.FunctionColor[0]);
+    EXPECT_EQ(count(second), 0);
+    item("mnuDefaultColors")->trigger();
+    EXPECT_EQ(wb.FunctionColor[1], second);
+    EXPECT_GT(count(second), 0);
+}
+
 TEST_F(DesignWindowTest, PolygonModeDrivenByRealMouseEventsAndKeys) {
     frame->runCommand("mnuDrawPoly");
     ASSERT_TRUE(design().Poly.PolygonMode);
