@@ -36,8 +36,13 @@ std::optional<std::string> readFile(const std::string& path) {
     return text.str();
 }
 
-FileFilter mapFilter() {
-    return {MapPaletteFilterText, "*.map"};
+// Both palette dialogs offer .map files and share their folder.
+FileDialogRequest paletteRequest(const char* title) {
+    FileDialogRequest request;
+    request.title = title;
+    request.filters = {{MapPaletteFilterText, "*.map"}};
+    request.folderKey = "Palette";
+    return request;
 }
 
 }  // namespace
@@ -89,11 +94,7 @@ std::string IfpPaletteText(const FunctionColors& colors) {
 }
 
 bool mnuCodeLoadPalette_Click(Workbench& wb, Host& host) {
-    FileDialogRequest request;
-    request.title = OpenPaletteTitle;
-    request.filters = {mapFilter()};
-    request.folderKey = "Palette";
-    const std::optional<std::string> name = host.openFileName(request);
+    const std::optional<std::string> name = host.openFileName(paletteRequest(OpenPaletteTitle));
     if (!name || name->empty()) return false;
     // A file that cannot be read whole leaves the colours as they were.
     const std::optional<std::string> text = readFile(*name);
@@ -106,11 +107,7 @@ bool mnuCodeLoadPalette_Click(Workbench& wb, Host& host) {
 }
 
 bool mnuCodeSavePalette_Click(Workbench& wb, Host& host) {
-    FileDialogRequest request;
-    request.title = SavePaletteTitle;
-    request.filters = {mapFilter()};
-    request.folderKey = "Palette";
-    const std::optional<std::string> chosen = host.saveFileName(request);
+    const std::optional<std::string> chosen = host.saveFileName(paletteRequest(SavePaletteTitle));
     if (!chosen) return false;
     std::string name = Trim(*chosen);
     if (name.empty()) return false;
