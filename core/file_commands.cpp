@@ -1,5 +1,6 @@
 #include "core/file_commands.h"
 
+#include "core/design_mode.h"
 #include "core/fractal_list.h"
 #include "core/function_table.h"
 #include "core/host.h"
@@ -82,7 +83,7 @@ bool NewIFS(Workbench& wb, Host& host) {
     if (wb.CodeForm == 2) wb.CodeForm = 0;
     CheckCodeFormMenu(wb);
     AdjustIFSMenu(wb, true);
-    wb.DesignMode = 0;
+    SetupIFSDesign(wb);
     InitializeIFS(wb.CurrentIFS);
     wb.SelectedIFS = 0;
     CheckListEntry(wb, 0);

@@ -1,5 +1,6 @@
 #include "core/ifs_file_reader.h"
 
+#include "core/design_mode.h"
 #include "core/fractal_list.h"
 #include "core/host.h"
 #include "core/ifs_list_reading.h"
@@ -46,6 +47,8 @@ void installList(Workbench& wb, int Loaded, int Start, const std::string& FileNa
         if (chaos) {
             wb.CodeForm = 2;
             wb.DesignMode = 1;
+        } else {
+            SetupIFSDesign(wb);
         }
     }
     if (addRecent) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/chaos_game.h"
+#include "core/design_mode.h"
 #include "core/fractal_list.h"
 #include "core/function_forms.h"
 #include "core/function_table.h"
@@ -22,8 +23,6 @@ namespace quillane {
 
 namespace {
 
-// The Toolbar1 buttons that mean nothing for fixed points: "polygon" and "fixed points".
-constexpr int PolygonButton = 8, FixedPointsButton = 10;
 
 std::array<std::string, 5> stepsOf(const IFSEntry& ifs, int i) {
     std::array<std::string, 5> s;
@@ -59,29 +58,7 @@ void extend(float& lo, float& hi, double v) {
     hi = std::max(hi, static_cast<float>(v));
 }
 
-// The file items and the first two frame buttons speak of chaos games in that mode; the way back puts
-// the captions of IFS mode back, so that they name what the items then open and save.
-void setFileCaptions(Workbench& wb, bool chaosGame) {
-    static const std::pair<const char*, const char*> items[] = {{"mnuSaveCurrent", SaveCurrentCGCaption},
-                                                                {"mnuSaveIFS", SaveIFSCGCaption},
-                                                                {"mnuSaveIFSas", SaveIFSasCGCaption},
-                                                                {"mnuOpen", OpenCGCaption},
-                                                                {"mnuFileAppend", FileAppendCGCaption}};
-    for (const auto& [key, caption] : items)
-        wb.Menu.setCaption(key, chaosGame ? std::string(caption) : FindMenuNode(key)->caption);
-    const auto& buttons = MainToolbarButtons();
-    wb.Menu.setCaption(FrameButtonKey(buttons[0].number), chaosGame ? NewChaosGameButton : buttons[0].toolTip);
-    wb.Menu.setCaption(FrameButtonKey(buttons[1].number), chaosGame ? OpenChaosGameButton : buttons[1].toolTip);
-}
-
 }  // namespace
-
-void CGDesignMenus(Workbench& wb, bool Visible) {
-    for (const char* key :
-         {"mnuDesignScale", "mnuDesignRotate", "mnuDesignFlipHor", "mnuDesignFlipVert", "mnuDesignStretch"})
-        wb.Menu.setVisible(key, Visible);
-    wb.Menu.setVisible("mnuDesignCGMoves", !Visible);
-}
 
 bool mnuNewChaosGame_Click(Workbench& wb, Host& host) {
     if (NeedsSave(wb) && !CheckSave(wb, host)) return false;
@@ -118,27 +95,9 @@ bool mnuNewChaosGame_Click(Workbench& wb, Host& host) {
     WriteTableRows(wb);
     wb.lblProbSum = ProbSumText(wb);
     ResetUndoMenu(wb);
-    setFileCaptions(wb, true);
+    ModeFileCaptions(wb, true);
     if (wb.ScaleCG.Showing) SetFPSettings(wb, true);
     return true;
-}
-
-void SetupIFSDesign(Workbench& wb) {
-    wb.Menu.setEnabled("mnuCodeFP", false);
-    wb.Menu.setChecked("mnuCodeFP", false);
-    wb.Menu.setEnabled("mnuRotation", true);
-    wb.Menu.setEnabled("mnuDesignNew", true);
-    wb.Menu.setEnabled("mnuCodeArrangeFP", false);
-    wb.DesignCaption = DesignIFSCaption;
-    wb.DesignMode = 0;
-    wb.Menu.setEnabled(FrameButtonKey(12), false);
-    wb.Menu.setEnabled(DesignToolbarKey(PolygonButton), true);
-    wb.Menu.setEnabled(DesignToolbarKey(FixedPointsButton), true);
-    CGDesignMenus(wb, true);
-    wb.Menu.setEnabled("mnuProbCalc", true);
-    wb.IFSModified = false;
-    wb.ChangeCount = 0;
-    setFileCaptions(wb, false);
 }
 
 void newCGFixedPoint(Workbench& wb, Host& host, bool Random, float x, float y) {

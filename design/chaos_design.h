@@ -4,29 +4,19 @@
 // redraws picCGDesign (RedrawCGDesign) afterwards.
 #include <string>
 
+#include "core/design_mode.h"
 #include "core/host.h"
 #include "core/menu_tree.h"
 #include "core/workbench.h"
 
 namespace quillane {
 
-inline constexpr const char* SaveCurrentCGCaption = "Save &Current Chaos Game to File..";
-inline constexpr const char* SaveIFSCGCaption = "&Save Chaos Game Fractals List";
-inline constexpr const char* SaveIFSasCGCaption = "Save Chaso Game Fractals List &As...";
-inline constexpr const char* OpenCGCaption = "&Open Chaos Game File...";
-inline constexpr const char* FileAppendCGCaption = "Appen&d Chaos Game File...";
-inline constexpr const char* NewChaosGameButton = "New Chaos Game";
-inline constexpr const char* OpenChaosGameButton = "Open Chaos Game file";
 inline constexpr const char* UndoMoveReferenceCaption = "&Undo Move Reference Point";
 inline constexpr const char* RedoMoveReferenceCaption = "&Redo Move Reference Point";
 
-// Shows the IFS-mode transformation items (Visible) or, the other way round, mnuDesignCGMoves.
-void CGDesignMenus(Workbench& wb, bool Visible);
 // A new one-function chaos game with the reference point in the middle of DesignWindow. False when
 // CheckSave was cancelled.
 bool mnuNewChaosGame_Click(Workbench& wb, Host& host);
-// Back to IFS mode.
-void SetupIFSDesign(Workbench& wb);
 
 // A new fixed point with the recipe "S" 0.5: at random in the lower left, at (x, y) when both are
 // below 10000, else at e0, f0 of OriginalMap as the first creation kept them. Selects it.

@@ -41,10 +41,6 @@ void DesignPictures::resize(int width, int height, Color back) {
     }
 }
 
-std::string DesignToolbarKey(int button) {
-    return MenuTable::key("DesignToolbar1", button);
-}
-
 Color DesignColorOf(const Workbench& wb, int i, bool forHandles) {
     const Color c = wb.FunctionColor[static_cast<size_t>(i)];
     if (c != wb.FractalBackColor) return c;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "core/design_mode.h"
 #include "core/initial_polygons.h"
 #include "core/workbench.h"
 #include "design/polygon_image.h"
@@ -13,13 +14,9 @@ namespace quillane {
 
 // Slot 100 of a..f: the selected map before a gesture, drawn as a dashed ghost.
 inline constexpr int GhostSlot = 100;
-inline constexpr int DesignToolbarButtons = 15;
 // Pixel sizes of the design window, converted to world units along x when used.
 inline constexpr int HandleSize = 3;
 inline constexpr int CloseTolerance = 5;
-
-// The key of Toolbar1's button (1..15) in the menu table, so logic can enable it without a window.
-std::string DesignToolbarKey(int button);
 
 struct DesignPictures {
     RasterSurface picdesign;    // IFS mode: polygons, grid, axes, fixed points

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/design_mode.h"
 #include "core/ifs_file_reader.h"
 #include "core/menu_tree.h"
 #include "tests/core/list_file_fixture.h"
@@ -78,6 +79,47 @@ TEST_F(FileCommands, OpenInChaosGameModeReadsChaosGameFiles) {
     EXPECT_EQ(wb.CurrentIFS.Name, "Spiral");
     EXPECT_EQ(wb.CurrentIFS.HasChaosGame, True16);
     EXPECT_EQ(wb.CurrentIFS.Step[2][0], "R");
+}
+
+// The menus of chaos game mode, as a new chaos game leaves them.
+void enterChaosGameMenus(Workbench& wb) {
+    wb.DesignMode = 1;
+    wb.CodeForm = 2;
+    wb.Menu.setEnabled("mnuCodeFP", true);
+    wb.Menu.setChecked("mnuCodeFP", true);
+    wb.Menu.setEnabled("mnuCodeArrangeFP", true);
+    wb.Menu.setEnabled(FrameButtonKey(12), true);
+    wb.Menu.setEnabled(DesignToolbarKey(PolygonButton), false);
+    CGDesignMenus(wb, false);
+    ModeFileCaptions(wb, true);
+}
+
+void expectIFSMode(const Workbench& wb) {
+    EXPECT_EQ(wb.DesignMode, 0);
+    EXPECT_EQ(wb.DesignCaption, "Design (IFS)");
+    EXPECT_FALSE(wb.menu("mnuCodeFP").enabled);
+    EXPECT_FALSE(wb.menu("mnuCodeFP").checked);
+    EXPECT_FALSE(wb.menu("mnuCodeArrangeFP").enabled);
+    EXPECT_FALSE(wb.menu(FrameButtonKey(12)).enabled);
+    EXPECT_TRUE(wb.menu(DesignToolbarKey(PolygonButton)).enabled);
+    EXPECT_TRUE(wb.menu("mnuDesignScale").visible);
+    EXPECT_FALSE(wb.menu("mnuDesignCGMoves").visible);
+    EXPECT_EQ(wb.menu("mnuOpen").caption, "&Open IFS File...");
+    EXPECT_EQ(wb.menu(FrameButtonKey(1)).caption, "New IFS");
+}
+
+TEST_F(FileCommands, OpeningAnIFSListSetsTheDesignUpForIFS) {
+    enterChaosGameMenus(wb);
+    wb.DesignMode = 0;  // an IFS file is asked for in IFS mode; the menus still show the chaos game
+    ASSERT_TRUE(OpenIFSFile(wb, host, 0, dir.write("two.ifs", TwoBlocks)));
+    expectIFSMode(wb);
+}
+
+TEST_F(FileCommands, NewIFSComesBackFromChaosGameMode) {
+    enterChaosGameMenus(wb);
+    ASSERT_TRUE(NewIFS(wb, host));
+    expectIFSMode(wb);
+    EXPECT_EQ(wb.CodeForm, 0);
 }
 
 TEST_F(FileCommands, CancelInTheOpenDialogChangesNothing) {

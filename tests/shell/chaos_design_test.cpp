@@ -92,6 +92,19 @@ TEST_F(ChaosDesignWindow, BackToIFSShowsPicdesignAgain) {
     EXPECT_TRUE(form().picture()->isVisible());
 }
 
+TEST_F(ChaosDesignWindow, NewIFSComesBackToTheDesignOfMaps) {
+    frame->runCommand("mnuNewIFS");
+    QApplication::processEvents();
+    EXPECT_EQ(wb().DesignMode, 0);
+    EXPECT_FALSE(area()->isVisible());
+    EXPECT_TRUE(form().picture()->isVisible());
+    EXPECT_EQ(form().windowTitle().toStdString(), "Design (IFS)");
+    EXPECT_EQ(item("mnuOpen")->text().toStdString(), "&Open IFS File...");
+    EXPECT_FALSE(item("mnuDesignCGMoves")->isVisible());
+    EXPECT_FALSE(item("mnuCodeFP")->isEnabled());
+    EXPECT_EQ(frame->toolbar()->button("new")->toolTip(), "New IFS");
+}
+
 TEST_F(ChaosDesignWindow, MovesWindowBuildsTheRecipe) {
     std::string title;
     QTimer::singleShot(0, [&] {

@@ -112,15 +112,19 @@ TEST_F(TableTest, EachFormRewritesTheTable) {
     item("mnuRotation")->trigger();
     EXPECT_EQ(text(box(1, 0)), "0.500");
     EXPECT_EQ(text(box(3, 0)), "0.00");
-    item("mnuCodeFP")->trigger();
-    EXPECT_EQ(wb().CodeForm, 2);
-    EXPECT_TRUE(box(8, 0)->isVisibleTo(&table()));
+    // An IFS list puts the design in IFS mode, where the fixed point form is not offered.
+    EXPECT_FALSE(item("mnuCodeFP")->isEnabled());
     item("mnuCodeMatrixFormat")->trigger();
     EXPECT_EQ(wb().MatrixFunctionForm, 1);
     EXPECT_TRUE(table().findChild<QWidget*>("picMatrix(0)")->isVisibleTo(&table()));
     item("mnuMatrix")->trigger();
     EXPECT_FALSE(table().findChild<QWidget*>("picMatrix(0)")->isVisibleTo(&table()));
     EXPECT_EQ(text(box(1, 0)), "0.500");
+    // A chaos game shows the fixed point form.
+    frame->runCommand("mnuNewChaosGame");
+    EXPECT_TRUE(item("mnuCodeFP")->isEnabled());
+    EXPECT_EQ(wb().CodeForm, 2);
+    EXPECT_TRUE(box(8, 0)->isVisibleTo(&table()));
 }
 
 TEST_F(TableTest, AWholeSessionKeepsTheNumbers) {
