@@ -49,4 +49,21 @@ void SetupIFSDesign(Workbench& wb) {
     ModeFileCaptions(wb, false);
 }
 
+void SetupChaosGameDesign(Workbench& wb) {
+    wb.DesignMode = 1;
+    wb.CodeForm = 2;
+    wb.Menu.setEnabled(FrameButtonKey(12), true);
+    wb.Menu.setEnabled(DesignToolbarKey(PolygonButton), false);
+    wb.Menu.setEnabled(DesignToolbarKey(FixedPointsButton), false);
+    for (const char* key : {"mnuCodeFP", "mnuCodeArrangeFP", "mnuRotation", "mnuDesignSwap"})
+        wb.Menu.setEnabled(key, true);
+    for (const char* key : {"mnuDesignLoadPicture", "mnuDesignClearPict"}) wb.Menu.setEnabled(key, false);
+    CGDesignMenus(wb, false);
+    wb.Menu.setEnabled("mnuDesignExamples", false);
+    wb.DesignCaption = DesignChaosGameCaption;
+    wb.Menu.setChecked("mnuCodeFP", true);
+    for (const char* key : {"mnuRotation", "mnuMatrix", "mnuCodeMatrixFormat"}) wb.Menu.setChecked(key, false);
+    ModeFileCaptions(wb, true);
+}
+
 }  // namespace quillane

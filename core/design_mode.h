@@ -29,5 +29,8 @@ void ModeFileCaptions(Workbench& wb, bool chaosGame);
 void CGDesignMenus(Workbench& wb, bool Visible);
 // Back to IFS mode.
 void SetupIFSDesign(Workbench& wb);
+// The menus, buttons and captions of chaos game mode, as a new chaos game and a chaos game list
+// opened afresh set them.
+void SetupChaosGameDesign(Workbench& wb);
 
 }  // namespace quillane

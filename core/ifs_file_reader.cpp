@@ -44,12 +44,10 @@ void installList(Workbench& wb, int Loaded, int Start, const std::string& FileNa
         wb.SelectedIFS = 1;
         wb.FrameCaption = "Quillane - " + bareName(FileName);
         wb.IFSFileName = FileName;
-        if (chaos) {
-            wb.CodeForm = 2;
-            wb.DesignMode = 1;
-        } else {
+        if (chaos)
+            SetupChaosGameDesign(wb);
+        else
             SetupIFSDesign(wb);
-        }
     }
     if (addRecent) {
         AddRecentFile(wb, FileName);

@@ -64,24 +64,11 @@ bool mnuNewChaosGame_Click(Workbench& wb, Host& host) {
     if (NeedsSave(wb) && !CheckSave(wb, host)) return false;
     wb.MapSelected = false;
     wb.CGMapSelected = false;
-    wb.DesignMode = 1;
-    wb.Menu.setEnabled(FrameButtonKey(12), true);
-    wb.Menu.setEnabled(DesignToolbarKey(PolygonButton), false);
-    wb.Menu.setEnabled(DesignToolbarKey(FixedPointsButton), false);
-    wb.CodeForm = 2;
+    SetupChaosGameDesign(wb);
     AdjustIFSMenu(wb, false);
     for (int k = 0; k <= 1; ++k) wb.Menu.setEnabled(MenuTable::key("mnuDrawType", k), true);
-    for (const char* key : {"mnuCodeFP", "mnuCodeArrangeFP", "mnuRotation", "mnuDesignSwap"})
-        wb.Menu.setEnabled(key, true);
-    for (const char* key : {"mnuDesignLoadPicture", "mnuDesignClearPict"}) wb.Menu.setEnabled(key, false);
     CheckListEntry(wb, 0);
     AdjustDesignMenu(wb, false);
-    CGDesignMenus(wb, false);
-    wb.Menu.setEnabled("mnuDesignExamples", false);
-    wb.DesignCaption = DesignChaosGameCaption;
-    wb.Menu.setChecked("mnuCodeFP", true);
-    for (const char* key : {"mnuRotation", "mnuMatrix", "mnuCodeMatrixFormat"})
-        wb.Menu.setChecked(key, false);
     InitializeIFS(wb.CurrentIFS);
     wb.lblComment.clear();  // the new game has no comments
     const WorldWindow& w = wb.DesignWindow;
@@ -95,7 +82,6 @@ bool mnuNewChaosGame_Click(Workbench& wb, Host& host) {
     WriteTableRows(wb);
     wb.lblProbSum = ProbSumText(wb);
     ResetUndoMenu(wb);
-    ModeFileCaptions(wb, true);
     if (wb.ScaleCG.Showing) SetFPSettings(wb, true);
     return true;
 }

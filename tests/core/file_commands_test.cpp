@@ -115,6 +115,24 @@ TEST_F(FileCommands, OpeningAnIFSListSetsTheDesignUpForIFS) {
     expectIFSMode(wb);
 }
 
+TEST_F(FileCommands, OpeningAChaosGameListSetsTheDesignUpForChaosGames) {
+    ASSERT_TRUE(OpenChaosFile(wb, host, 0, dir.write("one.chg", OneChaosBlock)));
+    EXPECT_EQ(wb.DesignMode, 1);
+    EXPECT_EQ(wb.CodeForm, 2);
+    EXPECT_EQ(wb.DesignCaption, "Design (Chaos Game)");
+    EXPECT_TRUE(wb.menu("mnuCodeFP").enabled);
+    EXPECT_TRUE(wb.menu("mnuCodeFP").checked);
+    EXPECT_FALSE(wb.menu("mnuMatrix").checked);
+    EXPECT_TRUE(wb.menu(FrameButtonKey(12)).enabled);
+    EXPECT_FALSE(wb.menu(DesignToolbarKey(PolygonButton)).enabled);
+    EXPECT_FALSE(wb.menu("mnuDesignScale").visible);
+    EXPECT_TRUE(wb.menu("mnuDesignCGMoves").visible);
+    EXPECT_EQ(wb.menu("mnuOpen").caption, "&Open Chaos Game File...");
+    // and an IFS list afterwards goes back
+    ASSERT_TRUE(OpenIFSFile(wb, host, 0, dir.write("two.ifs", TwoBlocks)));
+    expectIFSMode(wb);
+}
+
 TEST_F(FileCommands, NewIFSComesBackFromChaosGameMode) {
     enterChaosGameMenus(wb);
     ASSERT_TRUE(NewIFS(wb, host));
