@@ -58,13 +58,7 @@ std::string GradientFileText(const GradientColors& g) {
 }
 
 std::optional<GradientColors> ReadGradientFile(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    std::string line;
-    while (std::getline(in, line)) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        lines.push_back(line);
-    }
+    const std::vector<std::string> lines = TextLines(text);
     if (lines.size() < 1 + GradientColorSlots) return std::nullopt;
     GradientColors g;
     g.GradientColorCount = CInt(Val(lines[0]));

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillane {
 
@@ -51,5 +52,7 @@ std::string RTrim(std::string_view s);
 std::string LTrim(std::string_view s);
 std::string ToLower(std::string_view s);
 std::string ToUpper(std::string_view s);
+// The lines of a text without their line ends (LF or CR LF); no empty last line after a final end.
+std::vector<std::string> TextLines(const std::string& text);
 
 }  // namespace quillane

@@ -16,18 +16,6 @@ int channel(std::string_view text) {
     return std::clamp(CInt(Val(text)), 0, 255);
 }
 
-// The lines of a text, without their CR LF or LF.
-std::vector<std::string> linesOf(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    std::string line;
-    while (std::getline(in, line)) {
-        if (!line.empty() && line.back() == '\r') line.pop_back();
-        lines.push_back(line);
-    }
-    return lines;
-}
-
 std::optional<std::string> readFile(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     if (!in) return std::nullopt;
@@ -63,7 +51,7 @@ Color MapPaletteLine(const std::string& line) {
 }
 
 std::optional<FunctionColors> ReadMapPalette(const std::string& text) {
-    const std::vector<std::string> lines = linesOf(text);
+    const std::vector<std::string> lines = TextLines(text);
     if (lines.size() < FunctionColorCount) return std::nullopt;
     FunctionColors colors{};
     for (int i = 0; i < FunctionColorCount; ++i) colors[static_cast<size_t>(i)] = MapPaletteLine(lines[static_cast<size_t>(i)]);
@@ -78,7 +66,7 @@ std::string MapPaletteText(const FunctionColors& colors) {
 }
 
 std::optional<FunctionColors> ReadIfpPalette(const std::string& text) {
-    const std::vector<std::string> lines = linesOf(text);
+    const std::vector<std::string> lines = TextLines(text);
     if (lines.size() < FunctionColorCount) return std::nullopt;
     FunctionColors colors{};
     for (int i = 0; i < FunctionColorCount; ++i)

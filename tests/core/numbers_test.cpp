@@ -116,5 +116,11 @@ TEST(Trim, RemovesBlanksOnly) {
     EXPECT_EQ(LTrim("  ab"), "ab");
 }
 
+TEST(TextLines, TakesBothLineEndsAndNoEmptyLastLine) {
+    EXPECT_EQ(TextLines("a\r\nb\nc"), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(TextLines("a\r\n\r\nb\r\n"), (std::vector<std::string>{"a", "", "b"}));
+    EXPECT_TRUE(TextLines("").empty());
+}
+
 }  // namespace
 }  // namespace quillane
