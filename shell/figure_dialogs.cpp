@@ -124,6 +124,21 @@ bool take(Host& host, const Checked<T>& verdict, std::optional<FigureParameters>
     return true;
 }
 
+// The outline-or-filled choice, line width and colour that the rectangle, regular polygon and circle
+// share; the colour lives in `color`, which the button changes.
+struct PenBoxes {
+    QCheckBox* filled;
+    QSpinBox* width;
+};
+
+template <class Figure>
+PenBoxes penBoxes(FigureDialog& d, Host& host, const Figure& f, Color& color) {
+    PenBoxes p{d.check("optFilled", "Filled", f.filled), d.spin("cmbThickness", "Line width", f.penWidth, 1, 21)};
+    color = f.color;
+    d.colorButton("picColor", "Colour", host, color);
+    return p;
+}
+
 }  // namespace
 
 std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figure,
@@ -222,14 +237,11 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
         auto* y = d.box("txtY", "y (lower left)", num(f.y));
         auto* w = d.box("txtWidth", "Width", num(f.width));
         auto* h = d.box("txtHeight", "Height", num(f.height));
-        auto* filled = d.check("optFilled", "Filled", f.filled);
-        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
-        color = f.color;
-        d.colorButton("picColor", "Colour", host, color);
+        const PenBoxes pen = penBoxes(d, host, f, color);
         d.finish([=, &result, &host, &color]() mutable {
             RectangleDialogText t{square->isChecked(),    x->text().toStdString(), y->text().toStdString(),
-                                  w->text().toStdString(), h->text().toStdString(), filled->isChecked(),
-                                  width->value(),          color};
+                                  w->text().toStdString(), h->text().toStdString(), pen.filled->isChecked(),
+                                  pen.width->value(),      color};
             return take(host, CheckRectangleDialog(t), result);
         });
     } else if (figure == 5) {
@@ -238,13 +250,10 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
         auto* x = d.box("txtX", "x (lower left)", num(f.x));
         auto* y = d.box("txtY", "y (lower left)", num(f.y));
         auto* w = d.box("txtWidth", "Width", num(f.width));
-        auto* filled = d.check("optFilled", "Filled", f.filled);
-        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
-        color = f.color;
-        d.colorButton("picColor", "Colour", host, color);
+        const PenBoxes pen = penBoxes(d, host, f, color);
         d.finish([=, &result, &host, &color]() mutable {
             PolygonDialogText t{sides->value(),          x->text().toStdString(), y->text().toStdString(),
-                                w->text().toStdString(), filled->isChecked(),     width->value(),
+                                w->text().toStdString(), pen.filled->isChecked(), pen.width->value(),
                                 color};
             return take(host, CheckPolygonDialog(t), result);
         });
@@ -253,13 +262,10 @@ std::optional<FigureParameters> AskFigure(QWidget* parent, Host& host, int figur
         auto* x = d.box("txtX", "Centre x", num(f.x));
         auto* y = d.box("txtY", "Centre y", num(f.y));
         auto* r = d.box("txtRadius", "Radius", num(f.radius));
-        auto* filled = d.check("optFilled", "Filled", f.filled);
-        auto* width = d.spin("cmbThickness", "Line width", f.penWidth, 1, 21);
-        color = f.color;
-        d.colorButton("picColor", "Colour", host, color);
+        const PenBoxes pen = penBoxes(d, host, f, color);
         d.finish([=, &result, &host, &color]() mutable {
             CircleDialogText t{x->text().toStdString(), y->text().toStdString(), r->text().toStdString(),
-                               filled->isChecked(),     width->value(),          color};
+                               pen.filled->isChecked(), pen.width->value(),      color};
             return take(host, CheckCircleDialog(t), result);
         });
     }
