@@ -4,7 +4,7 @@
 
 #include "core/menu_tree.h"
 #include "design/design_drawing.h"
-#include "design/design_view.h"
+#include "app/design_view.h"
 
 namespace quillane {
 namespace {

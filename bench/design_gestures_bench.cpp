@@ -6,8 +6,8 @@
 #include "core/initial_polygons.h"
 #include "core/menu_tree.h"
 #include "design/design_drawing.h"
-#include "design/design_gestures.h"
-#include "design/design_view.h"
+#include "app/design_gestures.h"
+#include "app/design_view.h"
 
 namespace quillane {
 namespace {

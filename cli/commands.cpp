@@ -7,7 +7,7 @@
 
 #include "cli/cli_host.h"
 #include "core/fractal_list.h"
-#include "core/ifs_file_reader.h"
+#include "app/ifs_file_reader.h"
 #include "core/ifs_file_writer.h"
 #include "core/numbers.h"
 #include "render/deterministic.h"
@@ -18,6 +18,8 @@
 #include "render/image_file.h"
 #include "render/play_game.h"
 #include "render/scale.h"
+#include "app/deterministic_commands.h"
+#include "app/figure_commands.h"
 
 namespace quillane::cli {
 

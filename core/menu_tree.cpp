@@ -424,4 +424,8 @@ std::vector<std::string> RadioGroupKeys(const std::string& key) {
     return keys;
 }
 
+std::string DesignToolbarKey(int button) {
+    return MenuTable::key("DesignToolbar1", button);
+}
+
 }  // namespace quillane

@@ -50,4 +50,11 @@ const MenuNode* FindMenuNode(const std::string& key);
 // The keys of the exclusive group the item belongs to, in menu order; empty when it is not a radio item.
 std::vector<std::string> RadioGroupKeys(const std::string& key);
 
+// The design window's Toolbar1 has 15 buttons; its entries in the menu table let logic enable them
+// without a window.
+inline constexpr int DesignToolbarButtons = 15;
+std::string DesignToolbarKey(int button);
+// The Toolbar1 buttons that mean nothing for fixed points: "polygon" and "fixed points".
+inline constexpr int PolygonButton = 8, FixedPointsButton = 10;
+
 }  // namespace quillane

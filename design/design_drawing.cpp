@@ -5,7 +5,6 @@
 
 #include "core/function_table.h"
 #include "core/numbers.h"
-#include "render/fractal_view.h"
 
 namespace quillane {
 
@@ -212,39 +211,11 @@ void DrawDesign(Workbench& wb, DesignPictures& d, bool Preview) {
     if (Preview && wb.menu("mnuDesignPreview").checked && d.DrawPreview) d.DrawPreview();
 }
 
-void DrawSelectedIFS(Workbench& wb, DesignPictures& d, int i, bool Preview) {
-    if (i != wb.SelectedMap) ResetUndoMenu(wb);
-    DrawDesign(wb, d, Preview);
-    wb.MapSelected = true;
-    AdjustDesignMenu(wb, true);
-    wb.SelectedMap = static_cast<int16_t>(i);
-    BoundingBoxes(wb, d, i);
-    DrawIFS(wb, d, i, 3);
-    DrawBoundingBox(wb, d, i, HandleSize);
-}
-
 void RedrawSelection(Workbench& wb, DesignPictures& d) {
     if (!wb.MapSelected || wb.SelectedMap >= wb.CurrentIFS.nMaps) return;
     BoundingBoxes(wb, d, wb.SelectedMap);
     DrawIFS(wb, d, wb.SelectedMap, 3);
     DrawBoundingBox(wb, d, wb.SelectedMap, HandleSize);
-}
-
-void AdjustDesignMenu(Workbench& wb, bool Enabled) {
-    if (wb.DesignMode == 1 && (wb.CodeForm == 0 || wb.CodeForm == 1)) Enabled = false;
-    for (const char* key : {"mnuDesignScale", "mnuDesignRotate", "mnuDesignFlipHor", "mnuDesignFlipVert",
-                            "mnuDesignDuplicate", "mnuDesignClear"})
-        wb.Menu.setEnabled(key, Enabled);
-    for (int button = 2; button <= 7; ++button) wb.Menu.setEnabled(DesignToolbarKey(button), Enabled);
-    wb.Menu.setEnabled("mnuDesignStretch", Enabled && wb.DesignMode != 1);
-    if (wb.CurrentIFS.nMaps <= 1) {
-        wb.Menu.setEnabled("mnuDesignClear", false);
-        wb.Menu.setEnabled(DesignToolbarKey(3), false);
-    }
-}
-
-void RefreshFunctions(Workbench& wb) {
-    WriteTableRow(wb, wb.SelectedMap);
 }
 
 }  // namespace quillane

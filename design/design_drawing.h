@@ -19,7 +19,6 @@ void DrawDesign(Workbench& wb, DesignPictures& d, bool Preview);
 void DrawIFS(Workbench& wb, DesignPictures& d, int i, int ExtraWidth);
 void DrawBoundingBox(Workbench& wb, DesignPictures& d, int i, int Size);
 void BoundingBoxes(Workbench& wb, DesignPictures& d, int i);
-void DrawSelectedIFS(Workbench& wb, DesignPictures& d, int i, bool Preview);
 // False when function i has no fixed point.
 bool FixedPointOf(const Workbench& wb, int i, float& x, float& y);
 void FixedPoints(Workbench& wb, DesignPictures& d, int i, int Size);
@@ -31,7 +30,5 @@ void drawDesignGrid(Workbench& wb, DesignPictures& d, bool BothAreas);
 // The selection as it stands, over a fresh drawing.
 void RedrawSelection(Workbench& wb, DesignPictures& d);
 
-void AdjustDesignMenu(Workbench& wb, bool Enabled);
-void RefreshFunctions(Workbench& wb);
 
 }  // namespace quillane

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "core/design_mode.h"
+#include "core/menu_tree.h"
 #include "core/initial_polygons.h"
 #include "core/workbench.h"
 #include "design/polygon_image.h"

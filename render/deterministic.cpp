@@ -5,7 +5,8 @@
 #include <string>
 
 #include "render/deterministic_scan.h"
-#include "render/fractal_view.h"
+#include "render/floating_picture.h"
+#include "core/undo_menu.h"
 #include "render/initial_figures.h"
 #include "render/picture_figures.h"
 #include "render/scale.h"
@@ -14,34 +15,9 @@ namespace quillane {
 
 namespace {
 
-bool frozen(const Workbench& wb) {
-    return wb.menu("mnuDrawFreezeScale").checked;
-}
-
-void showLevel(const Workbench& wb, FractalPictures& pics) {
-    pics.picCount = std::to_string(wb.IterationNumber) + pics.Det.CountSuffix;
-}
-
-// Level 0: the zoom commands work again and the display shows 0.
-void backToLevelZero(Workbench& wb, FractalPictures& pics) {
-    wb.IterationNumber = 0;
-    pics.Det.CountSuffix.clear();
-    wb.Menu.setEnabled("mnuZoom", true);
-    wb.Menu.setEnabled("mnuDrawZoom", true);
-    showLevel(wb, pics);
-}
-
 void fill(RasterSurface& s, Color c) {
     std::fill(s.data(), s.data() + static_cast<size_t>(s.width()) * s.height(),
               (c & 0xFFFFFFu) | 0xFF000000u);
-}
-
-void paintPlaced(RasterSurface& dest, const FractalPictures& pics) {
-    try {
-        dest.paint(pics.picPaste, pics.PasteX, pics.PasteY, RasterOp::Copy);
-    } catch (const SurfaceOverflow&) {
-        // A placed picture that far outside the view has nothing to show in it.
-    }
 }
 
 // picImage, picMask and picImage4 as picfractal, with the window's mapping.
@@ -53,12 +29,6 @@ void sizeOffScreen(FractalPictures& pics) {
             s->resize(view.width(), view.height());
         s->setScale(view.scaleLeft(), view.scaleTop(), view.scaleRight(), view.scaleBottom());
     }
-}
-
-void takeShift(const Workbench& wb, FractalPictures& pics) {
-    const WorldWindow& w = wb.Window;
-    pics.picImageShift.setScale(w.xmin, w.ymax, w.xmax, w.ymin);
-    pics.picImageShift.takeImage(pics.picfractal);
 }
 
 ScanRequest coloredRequest(const Workbench& wb, const FractalPictures& pics, int which) {
@@ -88,7 +58,7 @@ bool plainLevel(Workbench& wb, FractalPictures& pics, Host& host, int which) {
     const bool placed = pics.PictureOverlaid && wb.DetFigure < 7;
     if (placed) {
         pics.picImage4.clear();
-        paintPlaced(pics.picImage4, pics);
+        PaintPlacedPicture(pics.picImage4, pics);
     }
     ScanRequest q;
     q.which = which;
@@ -164,6 +134,38 @@ class SilentHost final : public Host {
 
 }  // namespace
 
+bool ScaleFrozen(const Workbench& wb) {
+    return wb.menu("mnuDrawFreezeScale").checked;
+}
+
+void ShowDetLevel(const Workbench& wb, FractalPictures& pics) {
+    pics.picCount = std::to_string(wb.IterationNumber) + pics.Det.CountSuffix;
+}
+
+// Level 0: the zoom commands work again and the display shows 0.
+void BackToLevelZero(Workbench& wb, FractalPictures& pics) {
+    wb.IterationNumber = 0;
+    pics.Det.CountSuffix.clear();
+    wb.Menu.setEnabled("mnuZoom", true);
+    wb.Menu.setEnabled("mnuDrawZoom", true);
+    ShowDetLevel(wb, pics);
+}
+
+void PaintPlacedPicture(RasterSurface& dest, const FractalPictures& pics) {
+    try {
+        dest.paint(pics.picPaste, pics.PasteX, pics.PasteY, RasterOp::Copy);
+    } catch (const SurfaceOverflow&) {
+        // A placed picture that far outside the view has nothing to show in it.
+    }
+}
+
+void TakeShiftImage(const Workbench& wb, FractalPictures& pics) {
+    const WorldWindow& w = wb.Window;
+    pics.picImageShift.setScale(w.xmin, w.ymax, w.xmax, w.ymin);
+    pics.picImageShift.takeImage(pics.picfractal);
+}
+
+
 int DeterministicColorMode(const Workbench& wb, const FractalPictures& pics) {
     if (wb.menu(MenuTable::key("mnuColors", 1)).checked) return std::clamp(pics.Det.optColoring, 1, 7);
     return 0;
@@ -177,10 +179,10 @@ void Iterate(Workbench& wb, FractalPictures& pics, Host& host, int Which) {
     const bool done = overlay ? overlayLevel(wb, pics, host, Which, wb.IterationNumber + 1)
                               : plainLevel(wb, pics, host, Which);
     if (done && !pics.Det.IterationAbort) {
-        takeShift(wb, pics);
+        TakeShiftImage(wb, pics);
         pics.picImage2.takeImage(pics.picfractal);
         wb.IterationNumber = std::max(wb.IterationNumber, 0) + 1;
-        showLevel(wb, pics);
+        ShowDetLevel(wb, pics);
     }
     endLevel(wb, pics, picCoordWasVisible);
 }
@@ -197,7 +199,7 @@ void IterateLevels(Workbench& wb, FractalPictures& pics, Host& host, int32_t lev
 
 void SetUpDeterministicWindow(Workbench& wb, FractalPictures& pics, float xmin, float xmax, float ymin,
                               float ymax, bool Flag) {
-    if (!frozen(wb)) ScalefrmFractalWindows(wb, pics, xmin, xmax, ymin, ymax, Flag);
+    if (!ScaleFrozen(wb)) ScalefrmFractalWindows(wb, pics, xmin, xmax, ymin, ymax, Flag);
     pics.picfractal.clear();
 }
 
@@ -227,7 +229,7 @@ void DrawDetFigure(Workbench& wb, FractalPictures& pics, Host& host, bool Flag) 
         DrawDetWindowFigure(wb, pics, host, std::max<int>(wb.DetFigure, 0), false, Flag);
         return;
     }
-    paintPlaced(pics.picfractal, pics);
+    PaintPlacedPicture(pics.picfractal, pics);
     pics.picImage2.takeImage(pics.picfractal);
     pics.picImage3.takeImage(pics.picfractal);
 }
@@ -236,7 +238,7 @@ void ResetDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     pics.picfractal.clear();
     DrawDetFigure(wb, pics, host, false);
     pics.picImage2.takeImage(pics.picfractal);
-    backToLevelZero(wb, pics);
+    BackToLevelZero(wb, pics);
 }
 
 void ResetDetFigure(Workbench& wb, int Figure) {
@@ -246,7 +248,7 @@ void ResetDetFigure(Workbench& wb, int Figure) {
 }
 
 void ClearDeterministicImage(Workbench& wb, FractalPictures& pics, Host& host) {
-    backToLevelZero(wb, pics);
+    BackToLevelZero(wb, pics);
     if (wb.DetFigure == -1) {
         DrawDetWindowFigure(wb, pics, host, 0, false, false);
         wb.Menu.setChecked(MenuTable::key("mnuDrawDetColorItems", 0), true);
@@ -258,20 +260,20 @@ void ClearDeterministicImage(Workbench& wb, FractalPictures& pics, Host& host) {
         DrawDetFigure(wb, pics, host, false);
     }
     pics.picImage2.takeImage(pics.picfractal);
-    if (wb.DetFigure > 6) takeShift(wb, pics);
+    if (wb.DetFigure > 6) TakeShiftImage(wb, pics);
 }
 
 void RedrawDeterministicView(Workbench& wb, FractalPictures& pics, Host& host) {
     pics.picfractal.clear();
-    backToLevelZero(wb, pics);
+    BackToLevelZero(wb, pics);
     DrawDetFigure(wb, pics, host, false);
-    takeShift(wb, pics);
+    TakeShiftImage(wb, pics);
     pics.picImage2.takeImage(pics.picfractal);
 }
 
 void CalcScaleDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     pics.picfractal.clear();
-    backToLevelZero(wb, pics);
+    BackToLevelZero(wb, pics);
     const WorldWindow before = wb.Window;
     setscale(wb, host);
     if (wb.DetFigure > 6 && pics.PictureOverlaid) {
@@ -287,135 +289,6 @@ void CalcScaleDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     }
     wb.FitWindow = wb.Window;
     pics.picImage2.takeImage(pics.picfractal);
-}
-
-void FractalKeyUp(Workbench& /*wb*/, FractalPictures& pics) {
-    pics.Det.KeepFirstColor = false;
-}
-
-bool DeterministicDigitKey(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
-    if (wb.RandomMode || wb.DrawingActive) return false;
-    DeterministicState& det = pics.Det;
-    const bool digit = keyCode >= '0' && keyCode <= '9';
-    const int d = digit ? keyCode - '0' : 0;
-    const int n = wb.mapsFromText();
-    if ((shiftMask & ShiftMaskShift) == 0) {
-        if (d < 1 || d > n) return false;
-        Iterate(wb, pics, host, d - 1);
-        return true;
-    }
-    if (!digit) {
-        det.DigitPending = false;
-        return false;
-    }
-    if (!det.DigitPending) {
-        det.TensDigit = d;
-        det.DigitPending = true;
-        return false;
-    }
-    det.DigitPending = false;
-    const int map = det.TensDigit * 10 + d;
-    if (map < 1 || map > n) return false;
-    Iterate(wb, pics, host, map - 1);
-    return true;
-}
-
-}  // namespace quillane
-
-namespace quillane {
-
-namespace {
-
-void toDeterministicMenus(Workbench& wb, FractalPictures& pics) {
-    MenuTable& m = wb.Menu;
-    m.setChecked(MenuTable::key("mnuDrawType", 0), false);
-    m.setChecked(MenuTable::key("mnuDrawType", 1), true);
-    for (const char* k :
-         {"mnuFileSaveAnimGif", "mnuDrawAddFigureItems", "mnuDrawDetColors", "mnuDrawOverlay"})
-        m.setEnabled(k, true);
-    m.setEnabled("mnuTracing", false);
-    const bool stealing = m(MenuTable::key("mnuColors", 2)).checked;
-    const bool counts = m(MenuTable::key("mnuColors", 1)).checked && pics.Det.optColoring == 6;
-    pics.Det.SavedColorItem = m(MenuTable::key("mnuColors", 2)).checked   ? 2
-                              : m(MenuTable::key("mnuColors", 1)).checked ? 1
-                                                                          : 0;
-    pics.Det.SavedOptColoring = pics.Det.optColoring;
-    m.setEnabled(MenuTable::key("mnuColors", 2), false);
-    m.setEnabled(MenuTable::key("optColoring", 6), false);
-    if (stealing || counts) {
-        for (int k = 0; k < 3; ++k) m.setChecked(MenuTable::key("mnuColors", k), k == 0);
-    }
-    m.setEnabled("mnuCodeColorStealingOptions", false);
-}
-
-void toRandomMenus(Workbench& wb, FractalPictures& pics) {
-    MenuTable& m = wb.Menu;
-    m.setChecked(MenuTable::key("mnuDrawType", 0), true);
-    m.setChecked(MenuTable::key("mnuDrawType", 1), false);
-    m.setEnabled("mnuDrawOverlay", false);
-    m.setChecked("mnuDrawOverlay", false);
-    for (const char* k : {"mnuDrawAddFigureItems", "mnuDrawDetColors", "mnuFileSaveAnimGif"})
-        m.setEnabled(k, false);
-    for (const char* k : {"mnuTracing", "mnuDrawZoom", "mnuDrawFixedNumber", "mnuZoom", "mnuDrawLoadPicture",
-                          "mnuCodeColorStealingOptions"})
-        m.setEnabled(k, true);
-    m.setEnabled(MenuTable::key("mnuColors", 2), true);
-    m.setEnabled(MenuTable::key("optColoring", 6), true);
-    for (int k = 0; k < 3; ++k) m.setChecked(MenuTable::key("mnuColors", k), k == pics.Det.SavedColorItem);
-    pics.Det.optColoring = pics.Det.SavedOptColoring;
-}
-
-void toDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
-    toDeterministicMenus(wb, pics);
-    wb.RandomMode = false;
-    pics.Det.picTrace.clear();
-    pics.picCoord.clear();
-    wb.IterationNumber = 0;
-    wb.FractalCaption = DeterministicCaption;
-    wb.FractalWindowCaption = DeterministicCaption;
-    // A figure never drawn in this session is drawn and fitted as the first one.
-    if (wb.DetFigure == -1 || !pics.Det.DetWindowStored) {
-        if (wb.DetFigure == -1) {
-            wb.Menu.setChecked(MenuTable::key("mnuDrawDetColorItems", 0), true);
-            wb.Menu.setChecked(MenuTable::key("mnuDrawDetColorItems", 1), false);
-        }
-        const int figure = std::max<int>(wb.DetFigure, 0);
-        DrawDetWindowFigure(wb, pics, host, figure, false, true);
-        wb.FitWindow = wb.Window;
-        ResetDetFigure(wb, figure);
-    } else {
-        if (!frozen(wb)) {
-            wb.Window = pics.Det.DetWindow;
-            WriteWindowText(wb);
-        }
-        const WorldWindow w = wb.Window;
-        SetUpDeterministicWindow(wb, pics, w.xmin, w.xmax, w.ymin, w.ymax, false);
-        DrawDetFigure(wb, pics, host, false);
-    }
-    pics.picImage2.takeImage(pics.picfractal);
-    backToLevelZero(wb, pics);
-}
-
-void toRandom(Workbench& wb, FractalPictures& pics) {
-    pics.picfractal.clear();
-    if (pics.PictureOverlaid && wb.DetFigure < 7) paintPlaced(pics.picfractal, pics);
-    takeShift(wb, pics);
-    pics.picImage2.takeImage(pics.picfractal);
-    toRandomMenus(wb, pics);
-    wb.RandomMode = true;
-    wb.FractalCaption = RandomCaption;
-    wb.FractalWindowCaption = RandomCaption;
-    wb.IterationNumber = -1;  // a marker until the next view change
-    wb.PointCount = 0;
-    pics.picCount.clear();
-}
-
-}  // namespace
-
-void mnuDrawType_Click(Workbench& wb, FractalPictures& pics, Host& host, int Index) {
-    if (wb.DrawingActive) return;
-    if (Index == 1 && wb.RandomMode) toDeterministic(wb, pics, host);
-    if (Index == 0 && !wb.RandomMode) toRandom(wb, pics);
 }
 
 void ClearImageDeterministicBranch(Workbench& wb, FractalPictures& pics) {

@@ -35,8 +35,6 @@ void DrawDetFigure(Workbench& wb, FractalPictures& pics, Host& host, bool Flag);
 void ResetDeterministic(Workbench& wb, FractalPictures& pics, Host& host);
 // DetFigure and the check marks of mnuDrawAddFigure.
 void ResetDetFigure(Workbench& wb, int Figure);
-// mnuDrawType: index 0 Random, 1 Deterministic.
-void mnuDrawType_Click(Workbench& wb, FractalPictures& pics, Host& host, int Index);
 // ClearImage in Deterministic mode: level 0, the figure drawn again.
 void ClearDeterministicImage(Workbench& wb, FractalPictures& pics, Host& host);
 // ClearImage's Deterministic branch, which shows no dialog.
@@ -46,10 +44,16 @@ void RedrawDeterministicView(Workbench& wb, FractalPictures& pics, Host& host);
 // "&Scale to Fit" in Deterministic mode.
 void CalcScaleDeterministic(Workbench& wb, FractalPictures& pics, Host& host);
 
-// The digit keys in Deterministic mode: a digit applies that map alone; Shift and two digits reach
-// maps above 9. True when the key was handled.
-bool DeterministicDigitKey(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask);
-// Key-up on the fractal window.
-void FractalKeyUp(Workbench& wb, FractalPictures& pics);
+
+// Whether "Freeze Scale" keeps the window as it is.
+bool ScaleFrozen(const Workbench& wb);
+// picCount shows the level and its suffix.
+void ShowDetLevel(const Workbench& wb, FractalPictures& pics);
+// Level 0: the zoom commands work again and the display shows 0.
+void BackToLevelZero(Workbench& wb, FractalPictures& pics);
+// The placed picture painted where it stands.
+void PaintPlacedPicture(RasterSurface& dest, const FractalPictures& pics);
+// picImageShift takes the picture with the window's mapping, for a later shift of the view.
+void TakeShiftImage(const Workbench& wb, FractalPictures& pics);
 
 }  // namespace quillane

@@ -78,4 +78,22 @@ void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
     }
 }
 
+void RestoreSelectionPen(FractalPictures& pics) {
+    const FractalSelection& s = pics.Selection;
+    pics.picfractal.setDrawMode(s.SavedDrawMode);
+    pics.picfractal.setDrawStyle(s.SavedDrawStyle);
+    pics.picfractal.setDrawWidth(s.SavedDrawWidth);
+}
+
+void ClearSelectionRect(Workbench& wb, FractalPictures& pics) {
+    FractalSelection& s = pics.Selection;
+    pics.picfractal.takeImage(pics.picImage2);
+    // The repaint took any rectangle or line of a drag with it, so the drag ends too.
+    if (s.SelectionDragging || s.DrawingLine) RestoreSelectionPen(pics);
+    s.SelectionDragging = false;
+    s.DrawingLine = false;
+    s.SelectionActive = false;
+    wb.Menu.setCaption("mnuZoom", ZoomInCaption);
+}
+
 }  // namespace quillane

@@ -80,4 +80,9 @@ void ScalefrmFractalWindows(Workbench& wb, FractalPictures& pics, float& xmin, f
 // Ends a drawing and returns the random picture to its empty start.
 void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture);
 
+// The pen the picture had before a selection drag or ruler line began.
+void RestoreSelectionPen(FractalPictures& pics);
+// Takes the selection rectangle or ruler line off the picture; Zoom In loses its "Selection".
+void ClearSelectionRect(Workbench& wb, FractalPictures& pics);
+
 }  // namespace quillane

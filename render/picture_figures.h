@@ -17,13 +17,6 @@ inline constexpr int ClipboardFigure = 8;
 bool DrawPictureFigure(Workbench& wb, FractalPictures& pics, Host& host, int Figure, bool ShowDialog,
                        bool ResetWindow);
 
-// mnuDrawAddFigure(Index): a new initial set, level 0.
-void mnuDrawAddFigure_Click(Workbench& wb, FractalPictures& pics, Host& host, InitialFigures& figs, int Index);
-
-// mnuEditPaste on the fractal window: in Deterministic mode, with no picture floating and a bitmap on
-// the clipboard, the clipboard becomes the initial set.
-bool PasteFractalFigure(Workbench& wb, FractalPictures& pics, Host& host, InitialFigures& figs);
-
 // LoadCSImageFile's search: "default." with the first of jpg, gif, png, bmp that exists in `folder`;
 // empty when there is none.
 std::string DefaultPictureFile(const std::string& folder);

@@ -5,7 +5,6 @@
 
 #include "core/menu_tree.h"
 #include "core/numbers.h"
-#include "render/fractal_view.h"
 #include "render/map_choice.h"
 #include "render/run_maps.h"
 

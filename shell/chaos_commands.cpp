@@ -1,8 +1,8 @@
 #include "shell/chaos_commands.h"
 
-#include "design/chaos_design.h"
-#include "design/chaos_moves.h"
-#include "design/design_view.h"
+#include "app/chaos_design.h"
+#include "app/chaos_moves.h"
+#include "app/design_view.h"
 #include "shell/chaos_moves_dialog.h"
 #include "shell/main_window.h"
 

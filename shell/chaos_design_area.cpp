@@ -2,8 +2,8 @@
 
 #include <QKeyEvent>
 
-#include "design/chaos_mouse.h"
-#include "render/fractal_view.h"
+#include "app/chaos_mouse.h"
+#include "app/fractal_view.h"
 #include "shell/design_window.h"
 
 namespace quillane {

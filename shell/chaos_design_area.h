@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "core/host.h"
-#include "shell/app_state.h"
+#include "app/app_state.h"
 #include "shell/picture_widget.h"
 
 namespace quillane {

@@ -11,7 +11,7 @@
 #include <QPushButton>
 #include <QSlider>
 
-#include "design/chaos_moves.h"
+#include "app/chaos_moves.h"
 
 namespace quillane {
 

@@ -3,14 +3,14 @@
 #include <QFontMetrics>
 #include <QLabel>
 
-#include "core/comment_commands.h"
-#include "core/file_commands.h"
+#include "app/comment_commands.h"
+#include "app/file_commands.h"
 #include "core/function_forms.h"
-#include "core/list_commands.h"
+#include "app/list_commands.h"
 #include "core/palette_files.h"
-#include "design/design_view.h"
-#include "render/list_entry_commands.h"
-#include "render/table_commands.h"
+#include "app/design_view.h"
+#include "app/list_entry_commands.h"
+#include "app/table_commands.h"
 #include "shell/functions_window.h"
 #include "shell/main_window.h"
 

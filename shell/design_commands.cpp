@@ -7,12 +7,12 @@
 #include <QMdiSubWindow>
 
 #include "design/design_drawing.h"
-#include "design/design_toolbar.h"
-#include "design/design_view.h"
-#include "design/polygon_commands.h"
-#include "design/transform_commands.h"
-#include "design/transform_count_commands.h"
-#include "design/undo.h"
+#include "app/design_toolbar.h"
+#include "app/design_view.h"
+#include "app/polygon_commands.h"
+#include "app/transform_commands.h"
+#include "app/transform_count_commands.h"
+#include "app/undo.h"
 #include "shell/design_window.h"
 #include "shell/functions_window.h"
 #include "shell/main_window.h"

@@ -16,10 +16,10 @@
 #include <array>
 
 #include "core/numbers.h"
-#include "design/design_keys.h"
-#include "design/design_view.h"
-#include "design/polygon_commands.h"
-#include "render/fractal_view.h"
+#include "app/design_keys.h"
+#include "app/design_view.h"
+#include "app/polygon_commands.h"
+#include "app/fractal_view.h"
 #include "shell/design_tool_icons.h"
 
 namespace quillane {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "design/design_gestures.h"
-#include "design/design_toolbar.h"
-#include "shell/app_state.h"
+#include "app/design_gestures.h"
+#include "app/design_toolbar.h"
+#include "app/app_state.h"
 #include "shell/picture_widget.h"
 
 class QLabel;

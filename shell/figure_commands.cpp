@@ -15,6 +15,8 @@
 #include "shell/fractal_window.h"
 #include "shell/main_window.h"
 #include "shell/surface_image.h"
+#include "app/deterministic_commands.h"
+#include "app/figure_commands.h"
 
 namespace quillane {
 

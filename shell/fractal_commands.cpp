@@ -7,10 +7,10 @@
 #include <QScreen>
 
 #include "render/floating_picture.h"
-#include "render/fractal_view.h"
-#include "render/list_entry_commands.h"
-#include "render/picture_commands.h"
-#include "render/table_commands.h"
+#include "app/fractal_view.h"
+#include "app/list_entry_commands.h"
+#include "app/picture_commands.h"
+#include "app/table_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/surface_image.h"
 #include "shell/frame_toolbar.h"

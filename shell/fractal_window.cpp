@@ -13,9 +13,10 @@
 #include <QVBoxLayout>
 
 #include "render/deterministic.h"
-#include "render/fractal_view.h"
+#include "app/fractal_view.h"
 #include "shell/floating_picture_widget.h"
 #include "shell/picture_widget.h"
+#include "app/deterministic_commands.h"
 
 namespace quillane {
 

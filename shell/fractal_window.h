@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "core/host.h"
-#include "shell/app_state.h"
+#include "app/app_state.h"
 
 class QLabel;
 class QProgressBar;

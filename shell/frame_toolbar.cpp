@@ -5,7 +5,7 @@
 #include <QPixmap>
 
 #include "core/menu_tree.h"
-#include "design/undo.h"
+#include "app/undo.h"
 #include "shell/icon_painting.h"
 
 namespace quillane {

@@ -9,7 +9,7 @@
 
 #include "core/function_table.h"
 #include "core/host.h"
-#include "shell/app_state.h"
+#include "app/app_state.h"
 
 class QGridLayout;
 class QLabel;

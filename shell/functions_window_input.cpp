@@ -10,8 +10,8 @@
 
 #include "core/numbers.h"
 #include "core/table_editing.h"
-#include "design/design_view.h"
-#include "render/table_commands.h"
+#include "app/design_view.h"
+#include "app/table_commands.h"
 #include "shell/functions_window.h"
 
 namespace quillane {

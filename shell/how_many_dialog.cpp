@@ -7,7 +7,7 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
-#include "render/fractal_view.h"
+#include "app/fractal_view.h"
 
 namespace quillane {
 

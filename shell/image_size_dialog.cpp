@@ -6,7 +6,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "render/fractal_view.h"
+#include "app/fractal_view.h"
 
 namespace quillane {
 

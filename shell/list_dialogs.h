@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "core/list_commands.h"
+#include "app/list_commands.h"
 
 namespace quillane {
 

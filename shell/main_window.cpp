@@ -10,7 +10,7 @@
 
 #include "core/menu_tree.h"
 #include "render/scale.h"
-#include "design/design_view.h"
+#include "app/design_view.h"
 #include "shell/code_commands.h"
 #include "shell/chaos_commands.h"
 #include "shell/chaos_design_area.h"

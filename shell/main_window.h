@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "core/startup.h"
-#include "shell/app_state.h"
+#include "app/startup.h"
+#include "app/app_state.h"
 #include "shell/frame_menus.h"
 #include "shell/frame_toolbar.h"
 #include "shell/list_dialogs.h"

@@ -10,7 +10,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "design/transform_swap.h"
+#include "app/transform_swap.h"
 
 namespace quillane {
 

@@ -10,7 +10,7 @@
 
 #include "core/host.h"
 #include "core/workbench.h"
-#include "design/transform_dialogs.h"
+#include "app/transform_dialogs.h"
 
 class QLineEdit;
 class QRadioButton;

@@ -8,8 +8,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "design/chaos_design.h"
-#include "design/transform_commands.h"
+#include "app/chaos_design.h"
+#include "app/transform_commands.h"
 #include "shell/chaos_design_area.h"
 #include "shell/design_window.h"
 #include "shell/main_window.h"

@@ -4,7 +4,7 @@
 #include <QScrollArea>
 #include <QTest>
 
-#include "render/fractal_view.h"
+#include "app/fractal_view.h"
 #include "shell/functions_window.h"
 #include "shell/picture_widget.h"
 #include "tests/shell/frame_fixture.h"

@@ -5,8 +5,8 @@
 #include <QTest>
 
 #include "core/fractal_list.h"
-#include "design/undo.h"
-#include "render/fractal_view.h"
+#include "app/undo.h"
+#include "app/fractal_view.h"
 #include "shell/functions_window.h"
 #include "tests/shell/frame_fixture.h"
 

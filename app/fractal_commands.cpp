@@ -1,0 +1,146 @@
+// The drawing commands of the fractal window and its keys.
+#include <string>
+
+#include "render/deterministic.h"
+#include "render/floating_picture.h"
+#include "app/fractal_view.h"
+#include "render/play_game.h"
+#include "app/deterministic_commands.h"
+
+namespace quillane {
+
+namespace {
+
+constexpr int CtrlAlt = ShiftMaskCtrl | ShiftMaskAlt;
+
+bool deterministicDrawing(const Workbench& wb) {
+    return !wb.RandomMode && wb.DrawingActive;
+}
+
+void deleteKey(Workbench& wb, FractalPictures& pics, int shiftMask) {
+    const bool keep = (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid &&
+                      !pics.Floating.Visible;
+    ClearImage(wb, pics, keep);
+    wb.DrawingActive = false;
+    wb.DrawingStarted = false;
+}
+
+// A floating picture stays on its pixels while the view moves, so its corners change.
+void showFloatingCorners(FractalPictures& pics) {
+    if (pics.Floating.Visible) pics.picCoord = PasteCornersText(pics);
+}
+
+}  // namespace
+
+// The window shows itself and takes the focus before this runs; the yield lets it paint first.
+void mnuRun_Click(Workbench& wb, FractalPictures& pics, Host& host) {
+    if (wb.DrawingActive) return;
+    PlaceFractalSelection(wb, pics);
+    host.yield();
+    if (!wb.RandomMode) {
+        wb.FractalCaption = DeterministicCaption;
+        Iterate(wb, pics, host, -1);
+        return;
+    }
+    wb.FractalCaption = "Fractal (Random)";
+    PlayGame(wb, pics, host, 0, 0);
+}
+
+void mnuStop_Click(Workbench& wb) {
+    wb.DrawingActive = false;
+}
+
+void mnuClear_Click(Workbench& wb, FractalPictures& pics) {
+    wb.DrawingActive = false;
+    ClearImage(wb, pics, false);
+    wb.DrawingStarted = false;
+}
+
+void DrawFixedNumber(Workbench& wb, FractalPictures& pics, Host& host, int32_t count) {
+    // The count is remembered per drawing type.
+    if (!wb.RandomMode) {
+        pics.Det.LastLevels = count < 0 ? -count : count;
+        host.yield();
+        IterateLevels(wb, pics, host, pics.Det.LastLevels);
+        return;
+    }
+    pics.LastFixedCount = count;
+    host.yield();
+    PlayGame(wb, pics, host, 0, count);
+}
+
+bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
+    if (shiftMask == (ShiftMaskCtrl | ShiftMaskShift)) pics.Det.KeepFirstColor = true;
+    switch (keyCode) {
+        case KeyQ:
+            wb.DrawingActive = false;
+            pics.Det.IterationAbort = true;
+            return true;
+        case KeyD:
+            if (shiftMask != CtrlAlt) return false;
+            if (wb.RandomMode)
+                PlayGame(wb, pics, host, 0, pics.LastFixedCount);
+            else
+                IterateLevels(wb, pics, host, pics.Det.LastLevels);
+            return true;
+        case KeyPageUp:
+            if (pics.Selection.SelectionActive)
+                ZoomIn(wb, pics, host);
+            else
+                ZoomOut(wb, pics, host, -5, true);
+            showFloatingCorners(pics);
+            return true;
+        case KeyPageDown:
+            ZoomOut(wb, pics, host, 5, true);
+            showFloatingCorners(pics);
+            return true;
+        case KeyHome:
+            ZoomOut(wb, pics, host, -1, true);
+            showFloatingCorners(pics);
+            return true;
+        case KeyLeft:
+        case KeyUp:
+        case KeyRight:
+        case KeyDown:
+            if (deterministicDrawing(wb)) return false;
+            ShiftDrawWin(wb, pics, host, keyCode);
+            showFloatingCorners(pics);
+            return true;
+        case KeyEsc:
+            if (pics.Floating.Visible) {
+                PlaceFractalSelection(wb, pics);
+                return true;
+            }
+            return LiftPlacedPicture(wb, pics);
+        case KeyR:
+            if (shiftMask != CtrlAlt || !pics.Floating.Visible) break;
+            pics.Floating.ResizeHandles = !pics.Floating.ResizeHandles;
+            wb.Menu.setChecked("mnuPicPastePopUpResize", pics.Floating.ResizeHandles);
+            return true;
+        case KeyDelete:
+            if (deterministicDrawing(wb)) return false;
+            deleteKey(wb, pics, shiftMask);
+            return true;
+        default:
+            break;
+    }
+    if (wb.RandomMode || wb.DrawingActive) return false;
+    PlaceFractalSelection(wb, pics);
+    return DeterministicDigitKey(wb, pics, host, keyCode, shiftMask);
+}
+
+void ResizeFractalWin(Workbench& wb, FractalPictures& pics, int side) {
+    wb.DrawingActive = false;
+    pics.resize(side, pics.picfractal.backColor());
+    float xmin = wb.Window.xmin, xmax = wb.Window.xmax, ymin = wb.Window.ymin, ymax = wb.Window.ymax;
+    ScalefrmFractalWindows(wb, pics, xmin, xmax, ymin, ymax, false);
+    pics.picImageShift.setScale(xmin, ymax, xmax, ymin);
+    ClearImage(wb, pics, false);
+    wb.DrawingStarted = false;
+}
+
+std::string FractalSizeText(int width, int height) {
+    return std::to_string(width) + " x " + std::to_string(height);
+}
+
+}  // namespace quillane

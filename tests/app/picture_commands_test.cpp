@@ -1,0 +1,85 @@
+#include "app/picture_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "core/scripted_host.h"
+#include "render/image_file.h"
+#include "tests/core/list_file_fixture.h"
+
+namespace quillane {
+namespace {
+
+using testing::TempDir;
+
+RasterSurface marked() {
+    RasterSurface p(12, 8, White);
+    p.setPixel(0, 0, RGB(255, 0, 0));
+    p.setPixel(11, 7, RGB(0, 0, 255));
+    return p;
+}
+
+TEST(PictureFileName, ANameEndingInTheExtensionInAnyCaseGetsNoSecondOne) {
+    EXPECT_EQ(PictureFileNameFor("fern.GIF", 1), "fern.GIF");
+    EXPECT_EQ(PictureFileNameFor("fern.png", 2), "fern.png");
+    EXPECT_EQ(PictureFileNameFor("fern.Jpg", 3), "fern.Jpg");
+    EXPECT_EQ(PictureFileNameFor("fern.bmp", 4), "fern.bmp");
+}
+
+TEST(PictureFileName, ANameWithAnotherExtensionGetsTheFiltersBehindIt) {
+    EXPECT_EQ(PictureFileNameFor("fern.png", 1), "fern.png.gif");
+    EXPECT_EQ(PictureFileNameFor("fern", 3), "fern.jpg");
+    EXPECT_EQ(PictureFileNameFor("fern.jpeg", 3), "fern.jpeg.jpg");
+}
+
+TEST(SaveFractal, TheDialogHasTheTitleAndTheFourFiltersInOrder) {
+    ScriptedHost host;
+    EXPECT_FALSE(SavePictureCommand(marked(), host, SaveFractalTitle));
+    ASSERT_EQ(host.dialogs().size(), 1u);
+    EXPECT_EQ(host.dialogs()[0].title, "Save Fractal Image");
+    const auto f = host.dialogs()[0].filters;
+    ASSERT_EQ(f.size(), 4u);
+    EXPECT_EQ(f[0].description, "GIF images (*.gif)");
+    EXPECT_EQ(f[1].description, "PNG images (*.png)");
+    EXPECT_EQ(f[2].description, "JPEG images (*.jpg)");
+    EXPECT_EQ(f[3].description, "Bitmap images (*.bmp)");
+    EXPECT_TRUE(host.shown().empty());
+}
+
+TEST(SaveFractal, EachFilterWritesItsFormatAndTheBitmapReadsBackExactly) {
+    TempDir dir;
+    for (int filter = 1; filter <= 4; ++filter) {
+        ScriptedHost host;
+        const std::string base = dir.path("picture" + std::to_string(filter));
+        host.fileNames.push_back(base);
+        host.filters.push_back(filter);
+        ASSERT_TRUE(SavePictureCommand(marked(), host, SaveFractalTitle)) << filter;
+        const std::string path = PictureFileNameFor(base, filter);
+        ASSERT_TRUE(std::filesystem::exists(path)) << path;
+        RasterSurface back;
+        std::string error;
+        ASSERT_TRUE(LoadImageFile(path, back, error)) << error;
+        EXPECT_EQ(back.width(), 12);
+        EXPECT_EQ(back.height(), 8);
+        if (filter != 3) {  // JPEG is lossy
+            EXPECT_EQ(back.pixel(0, 0), RGB(255, 0, 0));
+            EXPECT_EQ(back.pixel(11, 7), RGB(0, 0, 255));
+            EXPECT_EQ(back.pixel(5, 5), White);
+        }
+    }
+}
+
+TEST(SaveFractal, AFailedWriteSaysImageSaveFailed) {
+    TempDir dir;
+    ScriptedHost host;
+    host.fileNames.push_back(dir.path("no-such-folder/inside/picture"));
+    host.filters.push_back(4);
+    EXPECT_FALSE(SavePictureCommand(marked(), host, SaveImageTitle));
+    EXPECT_EQ(host.shown(), (std::vector<ShownMessage>{{"Error", "Image save failed"}}));
+    EXPECT_EQ(host.dialogs()[0].title, "Save Image");
+}
+
+}  // namespace
+}  // namespace quillane
