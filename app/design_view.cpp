@@ -197,4 +197,18 @@ std::string ResizeDesignWin(Workbench& wb, DesignPictures& d, int width, int hei
     return std::to_string(width) + " x " + std::to_string(height);
 }
 
+BoxCommit txtDesign_Commit(Workbench& wb, Host& host) {
+    if (wb.txtDesign == WindowTexts(wb.DesignWindow)) return BoxCommit::Unchanged;
+    const std::optional<WorldWindow> w = WindowFromTexts(wb.txtDesign);
+    if (!w) {
+        host.warn(InvalidNumberTitle, InvalidNumberMessage);
+        wb.txtDesign = WindowTexts(wb.DesignWindow);
+        return BoxCommit::Refused;
+    }
+    const bool changed = *w != wb.DesignWindow;
+    wb.DesignWindow = *w;
+    wb.txtDesign = WindowTexts(*w);
+    return changed ? BoxCommit::Changed : BoxCommit::Unchanged;
+}
+
 }  // namespace quillane

@@ -2,6 +2,8 @@
 // The design window's view: scale to fit, scale to the fractal window, zoom, shift, resize.
 #include <string>
 
+#include "core/host.h"
+#include "core/table_editing.h"
 #include "core/workbench.h"
 #include "design/design_pictures.h"
 #include "render/fractal_pictures.h"
@@ -42,5 +44,8 @@ void mnuDesignLine_Click(Workbench& wb, DesignPictures& d, int Index);
 bool RedrawDesignIfChanged(Workbench& wb, DesignPictures& d);
 // A new size of the window keeps DesignWindow; returns the size text "w x h".
 std::string ResizeDesignWin(Workbench& wb, DesignPictures& d, int width, int height);
+
+// txtDesign's commit: the texts and DesignWindow. The design window redraws itself on Changed.
+BoxCommit txtDesign_Commit(Workbench& wb, Host& host);
 
 }  // namespace quillane

@@ -20,6 +20,7 @@
 #include "render/scale.h"
 #include "app/deterministic_commands.h"
 #include "app/figure_commands.h"
+#include "app/background_commands.h"
 
 namespace quillane::cli {
 

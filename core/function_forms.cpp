@@ -14,11 +14,6 @@ namespace quillane {
 
 namespace {
 
-constexpr const char* MatrixItem = "mnuMatrix";
-constexpr const char* MatrixFunctionItem = "mnuCodeMatrixFormat";
-constexpr const char* RotationItem = "mnuRotation";
-constexpr const char* FixedPointItem = "mnuCodeFP";
-
 // a, b, c, d from r, s, theta and phi in degrees.
 void rebuildMatrix(IFSEntry& ifs, int i, const RotationForm& f) {
     const double theta = f.theta * DegToRad;
@@ -85,8 +80,13 @@ void readRow(const Workbench& wb, IFSEntry& target, int i) {
     target.p[i] = boxValue(wb, 7, i);
 }
 
-// The common part of the four radio commands.
-void showForm(Workbench& wb, const char* item, int16_t codeForm) {
+std::vector<float> probabilities(const IFSEntry& ifs) {
+    return {ifs.p.begin(), ifs.p.begin() + ifs.nMaps};
+}
+
+}  // namespace
+
+void ShowFunctionForm(Workbench& wb, const char* item, int16_t codeForm) {
     for (const std::string& key : RadioGroupKeys(MatrixItem)) wb.Menu.setChecked(key, key == item);
     wb.CodeForm = codeForm;
     WriteTableRows(wb);
@@ -101,11 +101,10 @@ void showForm(Workbench& wb, const char* item, int16_t codeForm) {
     }
 }
 
-std::vector<float> probabilities(const IFSEntry& ifs) {
-    return {ifs.p.begin(), ifs.p.begin() + ifs.nMaps};
+void UseMatrixForm(Workbench& wb) {
+    wb.MatrixFunctionForm = 0;
+    ShowFunctionForm(wb, MatrixItem, 0);
 }
-
-}  // namespace
 
 void EnterBox(Workbench& wb, int /*Column*/, int Row) {
     const IFSEntry& ifs = wb.CurrentIFS;
@@ -139,38 +138,12 @@ void TextToCode(const Workbench& wb, IFSEntry& Target) {
     for (int i = 0; i < n; ++i) readRow(wb, Target, i);
 }
 
-void mnuMatrix_Click(Workbench& wb) {
-    if (wb.menu(MatrixItem).checked) return;
-    wb.MatrixFunctionForm = 0;
-    showForm(wb, MatrixItem, 0);
-}
-
-void mnuCodeMatrixFormat_Click(Workbench& wb, Host& host) {
-    if (wb.menu(MatrixFunctionItem).checked) return;
-    if (wb.CurrentIFS.nMaps > MaxMatrixFunctionForm) {
-        host.warn(MatrixFunctionFormTitle, MatrixFunctionFormRefused);
-        return;
-    }
-    wb.MatrixFunctionForm = 1;
-    showForm(wb, MatrixFunctionItem, 0);
-}
-
-void mnuRotation_Click(Workbench& wb) {
-    if (wb.menu(RotationItem).checked) return;
-    showForm(wb, RotationItem, 1);
-}
-
-void mnuCodeFP_Click(Workbench& wb) {
-    if (wb.menu(FixedPointItem).checked) return;
-    showForm(wb, FixedPointItem, 2);
-}
-
 void SetUpFunctions(Workbench& wb, Host& host, int n) {
     n = std::clamp(n, 1, MaxMaps);
     // Only the compact layout has room for more rows; the flag alone, in another form, is left be.
     if (n > MaxMatrixFunctionForm && wb.CodeForm == 0 && wb.MatrixFunctionForm == 1) {
         host.warn(MatrixFunctionFormTitle, MatrixFunctionFormReset);
-        mnuMatrix_Click(wb);
+        UseMatrixForm(wb);
     }
     LockFunctions(wb, false);
     wb.txtMaps = std::to_string(n);
@@ -207,24 +180,6 @@ std::optional<bool> ProbCalc(Workbench& wb) {
     PropProb(wb);
     WriteProbabilityTexts(wb);
     return probabilities(ifs) != before;
-}
-
-void mnuCodeArrangeFP_Click(Workbench& wb) {
-    IFSEntry& ifs = wb.CurrentIFS;
-    const int n = ifs.nMaps;
-    ifs.FPx[0] = 0;
-    ifs.FPy[0] = 0;
-    if (n > 1) {
-        ifs.FPx[1] = 1;
-        ifs.FPy[1] = 0;
-    }
-    for (int i = 2; i < n; ++i) {
-        const double turn = (i - 1) * 6.283185308 / n;
-        ifs.FPx[i] = static_cast<float>(ifs.FPx[i - 1] + std::cos(turn));
-        ifs.FPy[i] = static_cast<float>(ifs.FPy[i - 1] + std::sin(turn));
-    }
-    for (int i = 0; i < n; ++i) CGMatrix(wb, i);
-    WriteTableRows(wb);
 }
 
 std::string ProbSumText(const Workbench& wb) {

@@ -22,6 +22,18 @@ inline constexpr const char* MatrixFunctionFormReset =
     "The matrix function form can only be used\nwith at most 35 functions. The format will\n"
     "be reset to the matrix compact form.    ";
 
+// The Code menu's items of the four forms.
+inline constexpr const char* MatrixItem = "mnuMatrix";
+inline constexpr const char* MatrixFunctionItem = "mnuCodeMatrixFormat";
+inline constexpr const char* RotationItem = "mnuRotation";
+inline constexpr const char* FixedPointItem = "mnuCodeFP";
+
+// The form in use: its item checked in the Code menu's radio group, CodeForm, the table's texts in
+// it, and the design's mode (the fixed point form is chaos game mode).
+void ShowFunctionForm(Workbench& wb, const char* item, int16_t codeForm);
+// The matrix form with full rows.
+void UseMatrixForm(Workbench& wb);
+
 // A box of the table was entered: keeps a, b, c, d of its row as they stand now, so that an edit of
 // one of r, s, theta, phi computes the other three from full-precision coefficients.
 void EnterBox(Workbench& wb, int Column, int Row);
@@ -34,12 +46,6 @@ void convert(Workbench& wb, int Column, int Row);
 // and the matrix built from it.
 void TextToCode(const Workbench& wb, IFSEntry& Target);
 
-// The radio commands of the forms; each does nothing when it is checked already.
-void mnuMatrix_Click(Workbench& wb);
-void mnuRotation_Click(Workbench& wb);
-void mnuCodeFP_Click(Workbench& wb);
-// Refuses with a warning for 36 functions or more.
-void mnuCodeMatrixFormat_Click(Workbench& wb, Host& host);
 
 // Lays the table out for n functions (1..100): txtMaps, the rows' count, the lock removed. With more
 // than 35 functions the matrix function form falls back to the compact form, with a warning.
@@ -54,9 +60,6 @@ bool SetProb(Workbench& wb);
 // against the division by zero: it ends with nothing and leaves everything as it was.
 std::optional<bool> ProbCalc(Workbench& wb);
 
-// The fixed points at the corners of a regular polygon with unit sides, the matrices rebuilt from the
-// recipes and the probabilities made proportional; the rows are rewritten.
-void mnuCodeArrangeFP_Click(Workbench& wb);
 
 // The sum of p over the functions, in "0.000", as lblProbSum shows it.
 std::string ProbSumText(const Workbench& wb);

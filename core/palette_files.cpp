@@ -16,16 +16,10 @@ int channel(std::string_view text) {
     return std::clamp(CInt(Val(text)), 0, 255);
 }
 
-std::optional<std::string> readFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return std::nullopt;
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
+}  // namespace
 
 // Both palette dialogs offer .map files and share their folder.
-FileDialogRequest paletteRequest(const char* title) {
+FileDialogRequest PaletteFileRequest(const char* title) {
     FileDialogRequest request;
     request.title = title;
     request.filters = {{MapPaletteFilterText, "*.map"}};
@@ -33,7 +27,13 @@ FileDialogRequest paletteRequest(const char* title) {
     return request;
 }
 
-}  // namespace
+std::optional<std::string> ReadPaletteText(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) return std::nullopt;
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
 
 Color MapPaletteLine(const std::string& line) {
     std::string s = line;
@@ -79,28 +79,6 @@ std::string IfpPaletteText(const FunctionColors& colors) {
     std::string text;
     for (Color c : colors) text += std::to_string(c & 0xFFFFFFu) + "\r\n";
     return text;
-}
-
-bool mnuCodeLoadPalette_Click(Workbench& wb, Host& host) {
-    const std::optional<std::string> name = host.openFileName(paletteRequest(OpenPaletteTitle));
-    if (!name || name->empty()) return false;
-    // A file that cannot be read whole leaves the colours as they were.
-    const std::optional<std::string> text = readFile(*name);
-    if (!text) return false;
-    const std::optional<FunctionColors> colors = ReadMapPalette(*text);
-    if (!colors) return false;
-    wb.FunctionColor = *colors;
-    wb.SettingsChanged = true;
-    return true;
-}
-
-bool mnuCodeSavePalette_Click(Workbench& wb, Host& host) {
-    const std::optional<std::string> chosen = host.saveFileName(paletteRequest(SavePaletteTitle));
-    if (!chosen) return false;
-    std::string name = Trim(*chosen);
-    if (name.empty()) return false;
-    if (name.size() < 4 || ToLower(name.substr(name.size() - 4)) != ".map") name += ".map";
-    return WriteTextFileReplacing(name, MapPaletteText(wb.FunctionColor));
 }
 
 void SameColor(Workbench& wb, int i) {

@@ -28,13 +28,14 @@ std::string MapPaletteText(const FunctionColors& colors);
 std::optional<FunctionColors> ReadIfpPalette(const std::string& text);
 std::string IfpPaletteText(const FunctionColors& colors);
 
-// mnuCodeLoadPalette: the colours of a chosen .map file, all or nothing; true when they changed.
-bool mnuCodeLoadPalette_Click(Workbench& wb, Host& host);
-// mnuCodeSavePalette: writes FunctionColor to a chosen file, ".map" appended when missing.
-bool mnuCodeSavePalette_Click(Workbench& wb, Host& host);
 // SameColor(i): functions i to the last one of CurrentIFS take the colour of function i.
 void SameColor(Workbench& wb, int i);
 // mnuDefaultColors: the colours of the settings file (FileColors), not the built-in table.
 void DefaultColors(Workbench& wb);
+
+// The whole text of a palette file, or nothing when it cannot be opened.
+std::optional<std::string> ReadPaletteText(const std::string& path);
+// Both palette dialogs offer .map files and share their folder.
+FileDialogRequest PaletteFileRequest(const char* title);
 
 }  // namespace quillane

@@ -197,18 +197,4 @@ void EscapeDesignBox(Workbench& wb, int Index) {
     wb.txtDesign[static_cast<size_t>(Index)] = WindowTexts(wb.DesignWindow)[static_cast<size_t>(Index)];
 }
 
-BoxCommit txtDesign_Commit(Workbench& wb, Host& host) {
-    if (wb.txtDesign == WindowTexts(wb.DesignWindow)) return BoxCommit::Unchanged;
-    const std::optional<WorldWindow> w = WindowFromTexts(wb.txtDesign);
-    if (!w) {
-        host.warn(InvalidNumberTitle, InvalidNumberMessage);
-        wb.txtDesign = WindowTexts(wb.DesignWindow);
-        return BoxCommit::Refused;
-    }
-    const bool changed = *w != wb.DesignWindow;
-    wb.DesignWindow = *w;
-    wb.txtDesign = WindowTexts(*w);
-    return changed ? BoxCommit::Changed : BoxCommit::Unchanged;
-}
-
 }  // namespace quillane

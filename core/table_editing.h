@@ -104,7 +104,5 @@ std::array<std::string, 4> WindowTexts(const WorldWindow& w);
 void EscapeWinBox(Workbench& wb, int Index);
 void EscapeDesignBox(Workbench& wb, int Index);
 
-// txtDesign's commit: the texts and DesignWindow. The design window redraws itself on Changed.
-BoxCommit txtDesign_Commit(Workbench& wb, Host& host);
 
 }  // namespace quillane

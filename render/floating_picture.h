@@ -59,12 +59,6 @@ PasteDataText PasteDataFor(const FractalPictures& pics, int corner);
 // Moves and sizes the floating picture by checked values.
 void ApplyPasteData(FractalPictures& pics, const PasteDataText& t);
 
-// mnuDrawLoadPicture: a picture file to float over a random drawing.
-void mnuDrawLoadPicture_Click(Workbench& wb, FractalPictures& pics, Host& host);
-// mnuDrawClearBGPic.
-void mnuDrawClearBGPic_Click(Workbench& wb, FractalPictures& pics);
-// mnuEditPasteBackground with the clipboard's bitmap (nullptr when there is none).
-void mnuEditPasteBackground_Click(Workbench& wb, FractalPictures& pics, const RasterSurface* clipboard);
 // Whether a background picture may be loaded or pasted now.
 bool BackgroundPictureAllowed(const Workbench& wb);
 

@@ -13,6 +13,7 @@
 #include "app/table_commands.h"
 #include "shell/functions_window.h"
 #include "shell/main_window.h"
+#include "app/code_commands.h"
 
 namespace quillane {
 

@@ -19,6 +19,7 @@
 #include "shell/image_size_dialog.h"
 #include "shell/main_window.h"
 #include "shell/paste_data_dialog.h"
+#include "app/background_commands.h"
 
 namespace quillane {
 

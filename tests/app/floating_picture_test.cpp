@@ -8,6 +8,7 @@
 #include "fractal_view_fixture.h"
 #include "render/image_file.h"
 #include "tests/core/list_file_fixture.h"
+#include "app/background_commands.h"
 
 namespace quillane {
 namespace {

@@ -8,6 +8,7 @@
 #include "core/scripted_host.h"
 #include "app/fractal_view.h"
 #include "tests/core/table_bench.h"
+#include "app/code_commands.h"
 
 namespace quillane {
 namespace {

@@ -5,6 +5,7 @@
 
 #include "core/scripted_host.h"
 #include "tests/core/list_file_fixture.h"
+#include "app/code_commands.h"
 
 namespace quillane::testing {
 namespace {

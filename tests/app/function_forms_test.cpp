@@ -10,6 +10,7 @@
 #include "core/scripted_host.h"
 #include "core/table_editing.h"
 #include "tests/core/table_bench.h"
+#include "app/code_commands.h"
 
 namespace quillane {
 namespace {
