@@ -5,20 +5,16 @@
 #include "app/design_view.h"
 #include "shell/chaos_moves_dialog.h"
 #include "shell/main_window.h"
+#include "app/window_commands.h"
 
 namespace quillane {
 
 void RegisterChaosCommands(MainWindow& frame) {
     AppState& s = frame.state();
     Host& host = frame.host();
-    frame.setCommand("mnuNewChaosGame", [&s, &host] {
-        if (mnuNewChaosGame_Click(s.wb, host)) RedrawDesignView(s.wb, s.design);
-    });
+    frame.setCommand("mnuNewChaosGame", [&s, &host] { mnuNewChaosGame_Click(s, host); });
     frame.setCommand("mnuDesignCGMoves", [&frame, &s, &host] {
-        if (s.wb.DrawingActive || s.wb.DesignMode != 1) return;
-        s.wb.SavedIFS = s.wb.CurrentIFS;
-        OpenScaleCG(s.wb);
-        RedrawDesignView(s.wb, s.design);
+        if (!OpenChaosGameMoves(s)) return;
         ChaosMovesDialog dialog(
             s.wb, host,
             [&frame, &s] {

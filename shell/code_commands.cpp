@@ -14,6 +14,7 @@
 #include "shell/functions_window.h"
 #include "shell/main_window.h"
 #include "app/code_commands.h"
+#include "app/window_commands.h"
 
 namespace quillane {
 
@@ -27,23 +28,11 @@ void RegisterCodeCommands(MainWindow& frame) {
     frame.setCommand("mnuProb", [&s, &host] { mnuProb_Click(s.wb, host); });
     frame.setCommand("mnuProbCalc", [&s, &host] { mnuProbCalc_Click(s.wb, host); });
     // The points move far: the design window fits them again.
-    frame.setCommand("mnuCodeArrangeFP", [&s] {
-        mnuCodeArrangeFP_Click(s.wb);
-        DesignScale(s.wb, s.design);
-    });
-    // The colours of the function indexes; the design shows them at once.
-    frame.setCommand("mnuCodeLoadPalette", [&s, &host] {
-        if (mnuCodeLoadPalette_Click(s.wb, host)) RedrawDesignView(s.wb, s.design);
-    });
+    frame.setCommand("mnuCodeArrangeFP", [&s] { mnuCodeArrangeFP_Click(s); });
+    frame.setCommand("mnuCodeLoadPalette", [&s, &host] { mnuCodeLoadPalette_Click(s, host); });
     frame.setCommand("mnuCodeSavePalette", [&s, &host] { mnuCodeSavePalette_Click(s.wb, host); });
-    frame.setCommand("mnuSameColor", [&s] {
-        SameColor(s.wb, 0);
-        RedrawDesignView(s.wb, s.design);
-    });
-    frame.setCommand("mnuDefaultColors", [&s] {
-        DefaultColors(s.wb);
-        RedrawDesignView(s.wb, s.design);
-    });
+    frame.setCommand("mnuSameColor", [&s] { mnuSameColor_Click(s); });
+    frame.setCommand("mnuDefaultColors", [&s] { mnuDefaultColors_Click(s); });
     frame.setCommand("mnuCodeRename",
                      [&frame, &s] { mnuCodeRename_Click(s.wb, frame.dialogs().frmIFSName); });
     frame.setCommand("mnuCodeComment", [&frame, &s] {
@@ -61,19 +50,10 @@ void RegisterListAndFileCommands(MainWindow& frame) {
     AppState& s = frame.state();
     Host& host = frame.host();
     // The entries take the IFS (with its view); the items above the separator edit the list.
-    frame.setArrayCommand("mnuNames", [&frame, &s, &host](int index) {
-        if (index >= 5) {
-            if (mnuNamesEntry_Click(s.wb, s.pics, host, index)) DesignScale(s.wb, s.design);
-        } else if (index != 4) {
-            mnuNames_Click(s.wb, host, frame.dialogs().list, index);
-        }
-    });
+    frame.setArrayCommand("mnuNames",
+                          [&frame, &s, &host](int index) { mnuNames_Click(s, host, frame.dialogs().list, index); });
     frame.setCommand("mnuNewIFS", [&s, &host] { mnuNewIFS_Click(s.wb, s.pics, host); });
-    frame.setCommand("mnuOpen", [&s, &host] {
-        if (!mnuOpen_Click(s.wb, host)) return;
-        ShowTakenIFS(s.wb, s.pics, host);
-        DesignScale(s.wb, s.design);
-    });
+    frame.setCommand("mnuOpen", [&s, &host] { mnuOpen_Click(s, host); });
     frame.setCommand("mnuFileAppend", [&s, &host] { mnuFileAppend_Click(s.wb, host); });
     frame.setCommand("mnuSaveIFS", [&s, &host] { mnuSaveIFS_Click(s.wb, host); });
     frame.setCommand("mnuSaveIFSas", [&s, &host] { mnuSaveIFSas_Click(s.wb, host); });

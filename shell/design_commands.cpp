@@ -17,6 +17,7 @@
 #include "shell/functions_window.h"
 #include "shell/main_window.h"
 #include "shell/transform_dialogs_qt.h"
+#include "app/window_commands.h"
 
 namespace quillane {
 
@@ -65,12 +66,9 @@ void registerViewCommands(MainWindow& frame) {
     AppState& s = frame.state();
     frame.setCommand("mnuDesignFP", [&s] { DesignFixedPoints(s.wb, s.design); });
     frame.setCommand("mnuDesignGrid", [&s] { DesignGrid(s.wb, s.design); });
-    frame.setCommand("mnuDesignAxes", [&s] {
-        s.wb.Menu.setChecked("mnuDesignAxes", !s.wb.menu("mnuDesignAxes").checked);
-        DesignAxes(s.wb, s.design);
-    });
+    frame.setCommand("mnuDesignAxes", [&s] { mnuDesignAxes_Click(s); });
     frame.setArrayCommand("mnuDesignLine", [&s](int i) { mnuDesignLine_Click(s.wb, s.design, i); });
-    frame.setCommand("DesignLineRing", [&s] { mnuDesignLine_Click(s.wb, s.design, (s.wb.LineThickness / 2 + 1) % 3); });
+    frame.setCommand("DesignLineRing", [&s] { DesignLineRing(s); });
     frame.setCommand("mnuDesignFitWin", [&s] { DesignScale(s.wb, s.design); });
     frame.setCommand("mnuDesignMatch", [&s] { mnuDesignMatch_Click(s.wb, s.design, s.pics); });
     frame.setCommand("mnuDesignZoom", [&s] { DesignWinZoom(s.wb, s.design, 1); });
@@ -131,19 +129,9 @@ void registerUndo(MainWindow& frame) {
     AppState& s = frame.state();
     Host& host = frame.host();
     frame.setCommand("mnuUndo", [&frame, &s, &host] {
-        DesignHooks hooks;
-        hooks.DesignScale = [&s] { DesignScale(s.wb, s.design); };
-        hooks.ZoomDesignOut = [&s] { DesignWinZoom(s.wb, s.design, 1); };
-        hooks.UndoDesignZoom = [&s] {
-            s.wb.DesignWindow = s.design.DesignUndoWindow;
-            WriteDesignText(s.wb);
-            ScaleDesignWindows(s.wb, s.design);
-            RedrawDesignView(s.wb, s.design);
-        };
-        const UndoResult r = mnuUndo_Click(s.wb, host, s.pics, hooks);
+        const UndoResult r = mnuUndo_Click(s, host);
         if (r.kind == UndoKind::TextEntry && r.box && frame.functionsWindow())
             frame.functionsWindow()->selectBox(r.box->column, r.box->row);
-        if (r.kind == UndoKind::Map || r.kind == UndoKind::Functions) RedrawDesignView(s.wb, s.design);
     });
 }
 

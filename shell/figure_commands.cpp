@@ -27,34 +27,6 @@ struct FigureMemory {
     InitialFigures figs;
 };
 
-FigureParameters defaultParameters(int figure) {
-    switch (figure) {
-        case 0:
-            return PolygonOutlineFigure{};
-        case 1:
-            return PolygonFilledFigure{};
-        case 2:
-            return LineFigure{};
-        case 3:
-            return TriangleFigure{};
-        case 4:
-            return RectangleFigure{};
-        case 5:
-            return RegularPolygonFigure{};
-        default:
-            return CircleFigure{};
-    }
-}
-
-// Fits the window around the figure with the usual margin, unless the scale is frozen.
-void fitWindow(Workbench& wb, FractalPictures& pics, const FigureParameters& p,
-               const DesignPolygon& polygon) {
-    WorldWindow w = FigureFitWindow(p, polygon, 0.0f);
-    SquareWindow(w.xmin, w.xmax, w.ymin, w.ymax);
-    AddWindowMargin(w.xmin, w.xmax, w.ymin, w.ymax);
-    SetUpDeterministicWindow(wb, pics, w.xmin, w.xmax, w.ymin, w.ymax, false);
-}
-
 }  // namespace
 
 void RegisterFigureCommands(MainWindow& frame) {
@@ -63,16 +35,14 @@ void RegisterFigureCommands(MainWindow& frame) {
     s.pics.Det.FigureDrawer = [&frame, memory](Workbench& wb, FractalPictures& pics, Host& host, int figure,
                                                bool showDialog, bool resetWindow) {
         if (figure < 0 || figure > 6) figure = 0;
-        std::optional<FigureParameters> p = memory->figs.last[figure];
+        std::optional<FigureParameters> p;
         if (showDialog) {
             bool useIFSColors = FigureUsesIFSColors(wb, memory->figs);
-            p = AskFigure(&frame, host, figure, wb.InitialPolygon, p, useIFSColors);
+            p = AskFigure(&frame, host, figure, wb.InitialPolygon, memory->figs.last[figure], useIFSColors);
             if (!p) return false;
             SetFigureColorChoice(wb, memory->figs, useIFSColors);
         }
-        if (!p) p = defaultParameters(figure);
-        if (resetWindow) fitWindow(wb, pics, *p, wb.InitialPolygon);
-        AcceptFigure(wb, memory->figs, figure, p, wb.InitialPolygon, pics.picfractal, pics.picImage3);
+        DrawDrawnFigure(wb, pics, memory->figs, figure, p, resetWindow);
         return true;
     };
     s.pics.Det.ClipboardBitmap = [] { return ClipboardBitmap(); };

@@ -20,6 +20,7 @@
 #include "shell/main_window.h"
 #include "shell/paste_data_dialog.h"
 #include "app/background_commands.h"
+#include "app/window_commands.h"
 
 namespace quillane {
 
@@ -132,10 +133,7 @@ void registerBackground(MainWindow& frame) {
         mnuEditPasteBackground_Click(s.wb, s.pics, clipboard ? &*clipboard : nullptr);
     });
     frame.setCommand("mnuPicPastePopUpFinish", [&s] { PlaceFractalSelection(s.wb, s.pics); });
-    frame.setCommand("mnuPicPastePopUpResize", [&s] {
-        s.pics.Floating.ResizeHandles = !s.pics.Floating.ResizeHandles;
-        s.wb.Menu.setChecked("mnuPicPastePopUpResize", s.pics.Floating.ResizeHandles);
-    });
+    frame.setCommand("mnuPicPastePopUpResize", [&s] { mnuPicPastePopUpResize_Click(s); });
     frame.setCommand("mnuPicPastePopUpSet", [&frame, &s, &host] {
         if (!s.pics.Floating.Visible) return;
         PasteDataDialog dialog(host, s.pics, &frame);
