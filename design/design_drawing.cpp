@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <functional>
 
 #include "core/function_table.h"
 #include "core/numbers.h"
@@ -141,15 +143,33 @@ void DrawDesignFPs(Workbench& wb, DesignPictures& d) {
     for (int i = 0; i < nMapsOf(wb); ++i) FixedPoints(wb, d, i, 4);
 }
 
+void ForEachMultiple(double lo, double hi, double step, double pixelsPerUnit,
+                     const std::function<void(double)>& draw) {
+    if (!(step > 0) || !std::isfinite(lo) || !std::isfinite(hi) || !std::isfinite(pixelsPerUnit) ||
+        pixelsPerUnit == 0)
+        return;
+    const double first = std::floor(lo / step), last = std::floor(hi / step);
+    if (!(first <= last)) return;
+    const double pixels = (last - first) * step * std::fabs(pixelsPerUnit);
+    if (last - first <= pixels + 1) {
+        const auto count = static_cast<int64_t>(last - first);
+        for (int64_t n = 0; n <= count; ++n) draw((first + static_cast<double>(n)) * step);
+        return;
+    }
+    // Closer than a pixel apart, every pixel between the first and the last holds one already.
+    const double from = first * step, perPixel = 1 / std::fabs(pixelsPerUnit);
+    for (int64_t j = 0; j <= static_cast<int64_t>(pixels); ++j) draw(from + static_cast<double>(j) * perPixel);
+}
+
 void DesignAxesTick(Workbench& wb, DesignPictures& d) {
     const WorldWindow& w = wb.DesignWindow;
     for (RasterSurface* s : {&d.picdesign, &d.picCGDesign}) {
         const double t = s->pixelsToWorldX(0.1 * PixelsPerInch);
         s->setDrawWidth(1);
-        for (double x = std::floor(w.xmin); x <= std::floor(w.xmax); ++x)
-            s->line(x, -t / 2, x, t / 2, wb.DesignAxisColor);
-        for (double y = std::floor(w.ymin); y <= std::floor(w.ymax); ++y)
-            s->line(-t / 2, y, t / 2, y, wb.DesignAxisColor);
+        ForEachMultiple(w.xmin, w.xmax, 1, s->worldToPixelsX(1),
+                        [&](double x) { s->line(x, -t / 2, x, t / 2, wb.DesignAxisColor); });
+        ForEachMultiple(w.ymin, w.ymax, 1, s->worldToPixelsY(1),
+                        [&](double y) { s->line(-t / 2, y, t / 2, y, wb.DesignAxisColor); });
     }
 }
 
@@ -174,12 +194,10 @@ void drawDesignGrid(Workbench& wb, DesignPictures& d, bool BothAreas) {
         s->setDrawMode(DrawMode::CopyPen);
         s->setDrawStyle(DrawStyle::Dot);
         s->setDrawWidth(1);
-        if (gx > 0)
-            for (double k = std::floor(w.xmin / gx); k <= std::floor(w.xmax / gx); ++k)
-                s->line(k * gx, w.ymin, k * gx, w.ymax, GridColor);
-        if (gy > 0)
-            for (double k = std::floor(w.ymin / gy); k <= std::floor(w.ymax / gy); ++k)
-                s->line(w.xmin, k * gy, w.xmax, k * gy, GridColor);
+        ForEachMultiple(w.xmin, w.xmax, gx, s->worldToPixelsX(1),
+                        [&](double x) { s->line(x, w.ymin, x, w.ymax, GridColor); });
+        ForEachMultiple(w.ymin, w.ymax, gy, s->worldToPixelsY(1),
+                        [&](double y) { s->line(w.xmin, y, w.xmax, y, GridColor); });
         s->setDrawStyle(DrawStyle::Solid);
         s->setDrawMode(mode);
     }

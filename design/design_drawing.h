@@ -1,6 +1,8 @@
 #pragma once
 // Drawing the design window: every function as the image of the initial polygon, the selection
 // with its handles, fixed points, grid and axes.
+#include <functional>
+
 #include "core/workbench.h"
 #include "design/design_pictures.h"
 
@@ -25,6 +27,11 @@ void FixedPoints(Workbench& wb, DesignPictures& d, int i, int Size);
 void DrawDesignFPs(Workbench& wb, DesignPictures& d);
 void DrawDesignSetup(Workbench& wb, DesignPictures& d);
 void DrawDesignAxes(Workbench& wb, DesignPictures& d);
+// Calls draw for every multiple of step from floor(lo / step) to floor(hi / step). When they stand
+// closer than a pixel (pixelsPerUnit is the picture's scale), one per pixel of that span instead: the
+// same picture, without a billion lines for a design window a billion units wide.
+void ForEachMultiple(double lo, double hi, double step, double pixelsPerUnit,
+                     const std::function<void(double)>& draw);
 void DesignAxesTick(Workbench& wb, DesignPictures& d);
 void drawDesignGrid(Workbench& wb, DesignPictures& d, bool BothAreas);
 // The selection as it stands, over a fresh drawing.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <utility>
 
@@ -18,6 +19,105 @@ PixelPos pixelOf(const RasterSurface& s, double x, double y) {
     PixelPos p;
     if (!s.toPixel(x, y, p.col, p.row)) throw SurfaceOverflow();
     return p;
+}
+
+// Lines, boxes and polygons may reach points far beyond the picture (a map that sends the polygon a
+// billion units away). Their pixel positions are clipped to this square, far larger than any picture,
+// so what crosses the picture is still drawn and nothing overflows.
+constexpr double FarPixel = 1073741824.0;  // 2^30
+
+struct PixelPoint {
+    double col = 0, row = 0;
+};
+
+bool finite(const PixelPoint& p) {
+    return std::isfinite(p.col) && std::isfinite(p.row);
+}
+
+bool near(const PixelPoint& p) {
+    return std::fabs(p.col) <= FarPixel && std::fabs(p.row) <= FarPixel;
+}
+
+PixelPoint farPixelOf(const RasterSurface& s, double x, double y) {
+    PixelPoint p;
+    s.toPixelFloor(x, y, p.col, p.row);
+    return p;
+}
+
+PixelPos toPos(const PixelPoint& p) {
+    return {static_cast<int64_t>(p.col), static_cast<int64_t>(p.row)};
+}
+
+// Liang-Barsky against the far square; false when the segment misses it.
+bool clipSegment(PixelPoint& a, PixelPoint& b) {
+    if (!finite(a) || !finite(b)) return false;
+    if (near(a) && near(b)) return true;
+    double t0 = 0, t1 = 1;
+    const double dx = b.col - a.col, dy = b.row - a.row;
+    const double p[4] = {-dx, dx, -dy, dy};
+    const double q[4] = {a.col + FarPixel, FarPixel - a.col, a.row + FarPixel, FarPixel - a.row};
+    for (int k = 0; k < 4; ++k) {
+        if (p[k] == 0) {
+            if (q[k] < 0) return false;
+            continue;
+        }
+        const double r = q[k] / p[k];
+        if (p[k] < 0)
+            t0 = std::max(t0, r);
+        else
+            t1 = std::min(t1, r);
+        if (t0 > t1) return false;
+    }
+    const PixelPoint from = a;
+    a = {std::floor(from.col + t0 * dx), std::floor(from.row + t0 * dy)};
+    b = {std::floor(from.col + t1 * dx), std::floor(from.row + t1 * dy)};
+    auto clamp = [](PixelPoint& p) {
+        p.col = std::clamp(p.col, -FarPixel, FarPixel);
+        p.row = std::clamp(p.row, -FarPixel, FarPixel);
+    };
+    clamp(a);
+    clamp(b);
+    return true;
+}
+
+// Sutherland-Hodgman against the far square. The edges it adds run along that square, far from the
+// picture, so neither the outline nor the even-odd fill inside the picture changes.
+std::vector<PixelPoint> clipPolygon(std::vector<PixelPoint> v) {
+    for (int side = 0; side < 4; ++side) {
+        auto inside = [side](const PixelPoint& p) {
+            switch (side) {
+                case 0: return p.col >= -FarPixel;
+                case 1: return p.col <= FarPixel;
+                case 2: return p.row >= -FarPixel;
+                default: return p.row <= FarPixel;
+            }
+        };
+        auto cross = [side](const PixelPoint& p, const PixelPoint& q) {
+            const double edge = (side == 0 || side == 2) ? -FarPixel : FarPixel;
+            const bool vertical = side < 2;
+            const double t = vertical ? (edge - p.col) / (q.col - p.col) : (edge - p.row) / (q.row - p.row);
+            return vertical ? PixelPoint{edge, p.row + t * (q.row - p.row)}
+                            : PixelPoint{p.col + t * (q.col - p.col), edge};
+        };
+        std::vector<PixelPoint> out;
+        for (size_t i = 0; i < v.size(); ++i) {
+            const PixelPoint& p = v[i];
+            const PixelPoint& q = v[(i + 1) % v.size()];
+            if (inside(p)) {
+                out.push_back(p);
+                if (!inside(q)) out.push_back(cross(p, q));
+            } else if (inside(q)) {
+                out.push_back(cross(p, q));
+            }
+        }
+        v = std::move(out);
+        if (v.empty()) break;
+    }
+    for (PixelPoint& p : v) {
+        p.col = std::floor(p.col);
+        p.row = std::floor(p.row);
+    }
+    return v;
 }
 
 // Puts the pixels of one drawing call on the surface. In invert mode a pixel that several strokes of
@@ -322,14 +422,22 @@ Color RasterSurface::point(double x, double y) const {
 }
 
 void RasterSurface::line(double x1, double y1, double x2, double y2, Color c) {
-    const PixelPos a = pixelOf(*this, x1, y1), b = pixelOf(*this, x2, y2);
+    PixelPoint a = farPixelOf(*this, x1, y1), b = farPixelOf(*this, x2, y2);
+    if (!clipSegment(a, b)) return;
     Pen pen(*this, c, true);
-    drawSegment(*this, pen, a, b);
+    drawSegment(*this, pen, toPos(a), toPos(b));
     pen.finish();
 }
 
 void RasterSurface::box(double x1, double y1, double x2, double y2, Color c, bool filled) {
-    const PixelPos a = pixelOf(*this, x1, y1), b = pixelOf(*this, x2, y2);
+    PixelPoint fa = farPixelOf(*this, x1, y1), fb = farPixelOf(*this, x2, y2);
+    if (!finite(fa) || !finite(fb)) return;
+    // An axis-parallel box keeps its visible part when its corners are pulled in to the far square.
+    for (PixelPoint* p : {&fa, &fb}) {
+        p->col = std::clamp(p->col, -FarPixel, FarPixel);
+        p->row = std::clamp(p->row, -FarPixel, FarPixel);
+    }
+    const PixelPos a = toPos(fa), b = toPos(fb);
     Pen pen(*this, c, !filled);
     if (filled) {
         const int64_t top = std::max<int64_t>(std::min(a.row, b.row), 0);
@@ -348,9 +456,11 @@ void RasterSurface::box(double x1, double y1, double x2, double y2, Color c, boo
 
 // The outline takes the draw width and mode but not the dotted style.
 void RasterSurface::circle(double x, double y, double radius, Color c, bool filled) {
-    const PixelPos centre = pixelOf(*this, x, y);
+    const PixelPoint far = farPixelOf(*this, x, y);
     const double pixels = std::fabs(worldToPixelsX(radius));
-    if (!(pixels < 2147483648.0)) throw SurfaceOverflow();
+    // A circle that far away or that large has nothing to show in the picture.
+    if (!finite(far) || !near(far) || !(pixels < FarPixel)) return;
+    const PixelPos centre = toPos(far);
     const int64_t r = std::llround(pixels);
     Pen pen(*this, c, !filled);
     if (filled)
@@ -362,9 +472,19 @@ void RasterSurface::circle(double x, double y, double radius, Color c, bool fill
 
 void RasterSurface::polygon(const std::vector<WorldPoint>& points, Color c, bool filled) {
     if (points.empty()) return;
+    std::vector<PixelPoint> far;
+    far.reserve(points.size());
+    bool allNear = true;
+    for (const WorldPoint& p : points) {
+        far.push_back(farPixelOf(*this, p.x, p.y));
+        if (!finite(far.back())) return;
+        allNear = allNear && near(far.back());
+    }
+    if (!allNear) far = clipPolygon(std::move(far));
+    if (far.empty()) return;
     std::vector<PixelPos> v;
-    v.reserve(points.size());
-    for (const WorldPoint& p : points) v.push_back(pixelOf(*this, p.x, p.y));
+    v.reserve(far.size());
+    for (const PixelPoint& p : far) v.push_back(toPos(p));
     Pen pen(*this, c, true);
     if (filled) fillPolygon(*this, pen, v);
     for (size_t i = 0; i < v.size(); ++i) drawSegment(*this, pen, v[i], v[(i + 1) % v.size()]);

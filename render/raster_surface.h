@@ -62,6 +62,11 @@ class RasterSurface final : public DrawSurface {
         row = static_cast<int64_t>(py);
         return true;
     }
+    // The same pixel position without the 32-bit check, for clipping what lies far outside.
+    void toPixelFloor(double x, double y, double& column, double& row) const {
+        column = std::floor((x - left_) * sx_);
+        row = std::floor((y - top_) * sy_);
+    }
     // Pixel-space scale factors of the mapping above.
     double pixelScaleX() const { return sx_; }
     double pixelScaleY() const { return sy_; }

@@ -284,7 +284,38 @@ TEST(RasterSurface, ALineBetweenTwoFarPointsKeepsItsSteps) {
     Pixels diagonal;
     for (int i = 0; i < 10; ++i) diagonal.insert({i, i});
     EXPECT_EQ(pixelsOf(s, Red), diagonal);
-    EXPECT_THROW(s.line(0, 0, 1e10, 0, Red), SurfaceOverflow);
+}
+
+// A map typed as 1e9 or 1e30 sends the design's polygons that far: what crosses the picture is drawn,
+// and nothing throws or takes long.
+TEST(RasterSurface, ShapesReachingBeyondThirtyTwoBitPixelsDrawTheirVisiblePart) {
+    RasterSurface s(10, 10, White);
+    s.line(0, 0, 1e10, 0, Red);
+    s.line(0, 9, 3e38, 9, Red);
+    EXPECT_EQ(pixelsOf(s, Red), [] {
+        Pixels p = rectangle(0, 0, 9, 0);
+        for (const auto& q : rectangle(0, 9, 9, 9)) p.insert(q);
+        return p;
+    }());
+    RasterSurface b(10, 10, White);
+    b.box(2, 2, 1e30, 1e30, Blue, true);
+    EXPECT_EQ(pixelsOf(b, Blue), rectangle(2, 2, 9, 9));
+    RasterSurface g(10, 10, White);
+    g.polygon({{0, 0}, {-3e38, 1e30}, {0, 5}}, Green, true);
+    g.polygon({{5, 5}, {1e30, 5}, {1e30, 1e30}, {5, 1e30}}, Red, true);
+    EXPECT_EQ(pixelsOf(g, Red), rectangle(5, 5, 9, 9));
+    EXPECT_FALSE(pixelsOf(g, Green).empty());
+    for (const auto& q : pixelsOf(g, Green)) EXPECT_EQ(q.first, 0);
+}
+
+TEST(RasterSurface, ShapesWithNaNOrCirclesBeyondReachDrawNothing) {
+    RasterSurface s(10, 10, White);
+    s.line(0, 0, std::nan(""), 5, Red);
+    s.box(0, 0, std::nan(""), 5, Red, true);
+    s.polygon({{0, 0}, {std::nan(""), 1}, {5, 5}}, Red, true);
+    s.circle(5, 5, 1e30, Red, false);
+    s.circle(1e30, 5, 2, Red, true);
+    EXPECT_TRUE(pixelsOf(s, Red).empty());
 }
 
 TEST(RasterSurface, ABoxOutlineIsItsFourSides) {
