@@ -1,13 +1,18 @@
-#include <QApplication>
 #include <clocale>
 
+#include "shell/guarded_application.h"
 #include "shell/main_window.h"
 
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
+    quillane::GuardedApplication app(argc, argv);
     // Qt takes the user's locale for the C library too; numbers in files and boxes always use ".".
     std::setlocale(LC_NUMERIC, "C");
     quillane::MainWindow frame;
+    app.onError = [&frame](const std::string& what) {
+        // A drawing cut short by the error must not leave the menus waiting for it.
+        frame.state().wb.DrawingActive = false;
+        frame.host().warn(quillane::UnexpectedErrorTitle, quillane::UnexpectedErrorText(what));
+    };
     frame.show();
     // Bare X servers have no window manager to give the frame the focus.
     frame.activateWindow();
