@@ -1,6 +1,10 @@
 #include "app/ifs_file_reader.h"
 
+#include <filesystem>
+
+#include "app/chaos_design.h"
 #include "app/design_mode.h"
+#include "core/function_forms.h"
 #include "core/fractal_list.h"
 #include "core/host.h"
 #include "core/ifs_list_reading.h"
@@ -131,6 +135,11 @@ FileOpenResult FileOpen(Workbench& wb, const std::string& Kind, const std::strin
     const std::string name = FileName.empty() ? "default." + Kind : FileName;
     const std::string tail = ToLower(name.size() >= 3 ? name.substr(name.size() - 3) : name);
     const bool chg = tail == "chg";
+    // A chaos game list starts a new chaos game first; nothing is modified yet, so nothing is asked.
+    if (chg && std::filesystem::is_regular_file(name)) {
+        SilentHost quiet;
+        mnuNewChaosGame_Click(wb, quiet);
+    }
     ListReadOptions options;
     options.rows = tail == "ifs" ? RowKind::IFS : RowKind::Chaos;
     options.missingPIsZero = false;
@@ -142,6 +151,7 @@ FileOpenResult FileOpen(Workbench& wb, const std::string& Kind, const std::strin
     const bool complete = r.fault == ReadFault::None && r.Loaded > 0;
     if (complete || installsAfterFault(r)) {
         installList(wb, r.Loaded, 0, name, chg, commandLine);
+        if (chg) ShowFunctionForm(wb, FixedPointItem, 2);
         result.ListLoaded = true;
     }
     if (complete || (r.fault == ReadFault::NotFound && !commandLine)) return result;

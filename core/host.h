@@ -50,4 +50,17 @@ class Host {
     }
 };
 
+// For routines that run where no person can be asked (the start, a redraw without a dialog): every
+// box is cancelled, every dialog returns nothing, and nothing is shown.
+class SilentHost final : public Host {
+  public:
+    Answer message(MessageIcon, const std::string&, const std::string&, MessageButtons) override {
+        return Answer::Cancel;
+    }
+    std::optional<std::string> openFileName(const FileDialogRequest&) override { return std::nullopt; }
+    std::optional<std::string> saveFileName(const FileDialogRequest&) override { return std::nullopt; }
+    std::optional<Color> chooseColor(Color) override { return std::nullopt; }
+    void yield() override {}
+};
+
 }  // namespace quillane

@@ -120,18 +120,6 @@ void endLevel(Workbench& wb, FractalPictures& pics, bool picCoordWasVisible) {
     wb.DrawingActive = false;
 }
 
-// A redraw that shows no dialog needs no person; this host answers nothing.
-class SilentHost final : public Host {
-  public:
-    Answer message(MessageIcon, const std::string&, const std::string&, MessageButtons) override {
-        return Answer::Cancel;
-    }
-    std::optional<std::string> openFileName(const FileDialogRequest&) override { return std::nullopt; }
-    std::optional<std::string> saveFileName(const FileDialogRequest&) override { return std::nullopt; }
-    std::optional<Color> chooseColor(Color) override { return std::nullopt; }
-    void yield() override {}
-};
-
 }  // namespace
 
 bool ScaleFrozen(const Workbench& wb) {

@@ -120,6 +120,26 @@ TEST_F(Start, TheChaosDefaultIsReadWhenTheIFSDefaultIsMissing) {
     EXPECT_TRUE(wb.menu("mnuCodeFP").checked);
     EXPECT_FALSE(wb.menu("mnuMatrix").checked);
     EXPECT_EQ(wb.FrameCaption, "Quillane - default.chg");
+    // The table's rows are in the fixed point form: steps, scale, angle, p, x, y.
+    EXPECT_EQ(wb.Table.text(1, 0), "S");
+    EXPECT_EQ(wb.Table.text(5, 0), "0.500");
+    EXPECT_EQ(wb.Table.text(8, 1), "1.000");
+}
+
+TEST_F(Start, ACommandLineChaosGameListStartsInChaosGameModeWithItsRowsInTheFixedPointForm) {
+    dir.write("default.ifs", Good);
+    const std::string mine = dir.write("two.chg", Chaos + "\n" + "Trio {\nS 0.5 0 0.3 0 0\nS 0.5 0 0.3 1 0\nS 0.5 0 0.4 0 1\n}\n");
+    start(mine);
+    EXPECT_EQ(menuNames(wb), (Names{"Pair", "Trio"}));
+    EXPECT_EQ(wb.DesignMode, 1);
+    EXPECT_EQ(wb.CodeForm, 2);
+    EXPECT_TRUE(wb.menu("mnuCodeFP").checked);
+    EXPECT_EQ(wb.menu("mnuOpen").caption, "&Open Chaos Game File...");
+    EXPECT_EQ(wb.Table.text(1, 0), "S");
+    EXPECT_EQ(wb.Table.text(5, 1), "0.500");
+    EXPECT_EQ(wb.Table.text(8, 1), "1.000");
+    EXPECT_EQ(wb.Table.text(9, 1), "0.000");
+    EXPECT_EQ(wb.SelectedIFS, 1);
 }
 
 TEST_F(Start, TheIFSDefaultWinsOverTheChaosDefault) {
