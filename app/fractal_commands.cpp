@@ -33,9 +33,27 @@ void showFloatingCorners(FractalPictures& pics) {
 }  // namespace
 
 // The window shows itself and takes the focus before this runs; the yield lets it paint first.
+namespace {
+
+// The boxes show the window, and a Draw must paint that window: a change that set the window without
+// rescaling the pictures (a new number of maps, a sampled scale) starts a new picture in it.
+void followWindow(Workbench& wb, FractalPictures& pics) {
+    const WorldWindow& w = wb.Window;
+    const RasterSurface& p = pics.picfractal;
+    if (static_cast<float>(p.scaleLeft()) == w.xmin && static_cast<float>(p.scaleRight()) == w.xmax &&
+        static_cast<float>(p.scaleTop()) == w.ymax && static_cast<float>(p.scaleBottom()) == w.ymin)
+        return;
+    float xmin = w.xmin, xmax = w.xmax, ymin = w.ymin, ymax = w.ymax;
+    ScalefrmFractalWindows(wb, pics, xmin, xmax, ymin, ymax, false);
+    ClearImage(wb, pics, pics.PictureOverlaid && !pics.Floating.Visible);
+}
+
+}  // namespace
+
 void mnuRun_Click(Workbench& wb, FractalPictures& pics, Host& host) {
     if (wb.DrawingActive) return;
     PlaceFractalSelection(wb, pics);
+    if (wb.RandomMode) followWindow(wb, pics);
     host.yield();
     if (!wb.RandomMode) {
         wb.FractalCaption = DeterministicCaption;
@@ -65,6 +83,7 @@ void DrawFixedNumber(Workbench& wb, FractalPictures& pics, Host& host, int32_t c
         return;
     }
     pics.LastFixedCount = count;
+    followWindow(wb, pics);
     host.yield();
     PlayGame(wb, pics, host, 0, count);
 }
@@ -78,10 +97,7 @@ bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCod
             return true;
         case KeyD:
             if (shiftMask != CtrlAlt) return false;
-            if (wb.RandomMode)
-                PlayGame(wb, pics, host, 0, pics.LastFixedCount);
-            else
-                IterateLevels(wb, pics, host, pics.Det.LastLevels);
+            DrawFixedNumber(wb, pics, host, wb.RandomMode ? pics.LastFixedCount : pics.Det.LastLevels);
             return true;
         case KeyPageUp:
             if (pics.Selection.SelectionActive)

@@ -108,7 +108,8 @@ bool ExitNeedsSave(const Workbench& wb) {
 
 std::string CheckSaveQuestion(const Workbench& wb) {
     std::string lines;
-    if (NeedsSave(wb)) lines = UnsavedIFSLine;
+    // The lines follow the modifications there are, not the save test that decided to ask.
+    if (wb.IFSModified) lines = UnsavedIFSLine;
     if (wb.ListModified) lines += (lines.empty() ? "" : "\n") + std::string(ModifiedListLine);
     return lines + CheckSaveTail;
 }

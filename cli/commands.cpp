@@ -134,7 +134,8 @@ int RunRender(const Command& cmd) {
     CliHost host;
     if (!readList(wb, host, r.file)) return 1;
     if (r.entry > wb.ListCount()) {
-        std::cerr << r.file << " has " << wb.ListCount() << " entries; there is no entry " << r.entry << "\n";
+        std::cerr << "--entry must be from 1 to " << wb.ListCount() << ": " << r.file << " has "
+                  << wb.ListCount() << (wb.ListCount() == 1 ? " entry" : " entries") << "\n";
         return 1;
     }
     if (!TakeListEntry(wb, host, r.entry)) return 1;

@@ -91,7 +91,7 @@ ParseResult parseRender(const std::vector<std::string>& args) {
         std::string v;
         long long n = 0;
         if (a == "--entry") {
-            if (!value(v) || !parseInt(v, 1, 30, n)) return usage("--entry needs a number from 1 to 30");
+            if (!value(v) || !parseInt(v, 1, 999999999, n)) return usage("--entry needs a positive number");
             r.entry = static_cast<int>(n);
         } else if (a == "--points") {
             if (!value(v) || !parseInt(v, 1, 999999950, n))

@@ -326,6 +326,25 @@ TEST(ZoomIn, ZoomsToTheSelectionWithEachPairOrdered) {
     EXPECT_EQ(pixelsOf(b.pics.picfractal), drawn);
 }
 
+// Page Up with no selection: every press takes 5% off the side about the centre and writes the boxes.
+TEST(ZoomIn, TenPressesWithoutASelectionShrinkFivePercentEachAboutTheCentre) {
+    ViewBench v(SierpinskiTriangleIFS(), {-0.05f, 1.05f, -0.05f, 1.05f});
+    double side = 1.1;
+    for (int press = 1; press <= 10; ++press) {
+        ZoomIn(v.wb, v.pics, v.host);
+        side *= 0.95;
+        const WorldWindow& w = v.wb.Window;
+        // The boxes hold three decimals and the window is read back from them, so each step may round.
+        EXPECT_NEAR(w.xmax - w.xmin, side, 0.001 * press) << press;
+        EXPECT_NEAR(w.ymax - w.ymin, side, 0.001 * press) << press;
+        EXPECT_NEAR((w.xmin + w.xmax) / 2, 0.5, 0.001) << press;
+        EXPECT_NEAR((w.ymin + w.ymax) / 2, 0.5, 0.001) << press;
+        EXPECT_EQ(v.wb.txtWin, (std::array<std::string, 4>{Format(w.ymax, "0.000"), Format(w.ymin, "0.000"),
+                                                          Format(w.xmin, "0.000"), Format(w.xmax, "0.000")}))
+            << press;
+    }
+}
+
 TEST(mnuZoom, DoesNothingOnceADeterministicDrawingHasLevels) {
     ViewBench b;
     b.wb.RandomMode = false;

@@ -1,5 +1,7 @@
 #include "app/startup.h"
 
+#include "app/file_commands.h"
+
 #include <gtest/gtest.h>
 
 #include "core/numbers.h"
@@ -330,6 +332,36 @@ TEST_F(Exit, TheQuestionForBoth) {
                                        "The current IFS code has not been saved.   \n"
                                        "The fractals list has been modified." +
                                            Tail}}));
+}
+
+// Open asks for a modified IFS even when the save test would not (no counted edit): the question
+// still says so.
+TEST_F(Exit, OpenWithAModifiedIFSThatTheSaveTestPassesStillStatesIt) {
+    wb.IFSModified = true;
+    wb.ChangeCount = 0;
+    EXPECT_FALSE(NeedsSave(wb));
+    EXPECT_EQ(CheckSaveQuestion(wb), "The current IFS code has not been saved.   " + Tail);
+    wb.ListModified = true;
+    EXPECT_EQ(CheckSaveQuestion(wb),
+              "The current IFS code has not been saved.   \nThe fractals list has been modified." + Tail);
+    host.answers = {Answer::Cancel};
+    EXPECT_FALSE(mnuOpen_Click(wb, host));
+    EXPECT_EQ(host.shown(), (Messages{{"Continue without saving?",
+                                       "The current IFS code has not been saved.   \n"
+                                       "The fractals list has been modified." +
+                                           Tail}}));
+}
+
+// A list modified with an IFS whose edits were all undone: the list line alone.
+TEST_F(Exit, AListModificationAloneGivesItsLineAloneAtEveryCaller) {
+    wb.ListModified = true;
+    wb.IFSModified = false;
+    host.answers = {Answer::Cancel, Answer::Cancel, Answer::Cancel};
+    EXPECT_FALSE(mnuOpen_Click(wb, host));
+    EXPECT_FALSE(mnuExit_Click(wb, host, flags, hooks));
+    EXPECT_FALSE(QueryUnload(wb, host, flags, hooks));
+    const ShownMessage listOnly{"Continue without saving?", "The fractals list has been modified." + Tail};
+    EXPECT_EQ(host.shown(), (Messages{listOnly, listOnly, listOnly}));
 }
 
 TEST_F(Exit, TheCloseBoxAsksTheSameAndCancelCancelsTheClose) {

@@ -64,6 +64,9 @@ check "render a JPEG" status 0 "$cli" render "$data/default.ifs" --points 5000 -
 check "pinned seed repeats the picture" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 -o "$work/u.png"
 check "same picture twice" cmp -s "$work/t.png" "$work/u.png"
 check "entry beyond the list exits 1" status 1 "$cli" render "$data/default.ifs" --entry 30 -o "$work/v.png"
+count=$("$cli" list "$data/default.ifs" | wc -l)
+check "entry 99 names the list's own range" status 1 "$cli" render "$data/default.ifs" --entry 99 -o "$work/v.png"
+check "the range message" grep -qx -- "--entry must be from 1 to $count: $data/default.ifs has $count entries" "$work/err"
 printf 'grow {\n2 0 0 2 1 1 1\n}\n' >"$work/grow.ifs"
 check "expanding IFS exits 1" status 1 "$cli" render "$work/grow.ifs" --window 0,1,0,1 -o "$work/g.png"
 check "overflow message" grep -q "Overflow error." "$work/err"

@@ -1,10 +1,12 @@
 #include "shell/fractal_window.h"
 
 #include <QMdiSubWindow>
+#include <cmath>
 #include <QScrollArea>
 #include <QTest>
 
 #include "app/fractal_view.h"
+#include "core/numbers.h"
 #include "shell/functions_window.h"
 #include "shell/picture_widget.h"
 #include "tests/shell/frame_fixture.h"
@@ -117,6 +119,54 @@ TEST_F(FractalWindowTest, PageDownZoomsOutPageUpZoomsInAndUndoGoesBackOneStep) {
     EXPECT_NEAR(side(), start, 0.11);
     EXPECT_LT(wb().Window.xmin, 0.0f);
     EXPECT_GT(wb().Window.xmax, 1.0f);
+}
+
+// The four boxes always show the window the next Draw uses, after every view command and table change.
+TEST_F(FractalWindowTest, TheWindowBoxesFollowEveryViewCommandAndTableChange) {
+    auto boxesAgree = [this](const char* step) {
+        const WorldWindow& w = wb().Window;
+        const std::array<float, 4> bounds{w.ymax, w.ymin, w.xmin, w.xmax};
+        for (int k = 0; k < 4; ++k) {
+            const auto* box = frame->functionsWindow()->txtWin(k);
+            EXPECT_EQ(box->text().toStdString(), Format(bounds[static_cast<size_t>(k)], "0.000")) << step << " box " << k;
+        }
+        // Draw paints with the picture's mapping: it must be that window.
+        drawPoints(50);
+        const RasterSurface& p = frame->state().pics.picfractal;
+        EXPECT_FLOAT_EQ(static_cast<float>(p.scaleLeft()), w.xmin) << step;
+        EXPECT_FLOAT_EQ(static_cast<float>(p.scaleRight()), w.xmax) << step;
+        EXPECT_FLOAT_EQ(static_cast<float>(p.scaleTop()), w.ymax) << step;
+        EXPECT_FLOAT_EQ(static_cast<float>(p.scaleBottom()), w.ymin) << step;
+    };
+    host.onYield = [&](int) { wb().DrawingActive = false; };
+    boxesAgree("start");
+    const double start = side();
+    for (int press = 1; press <= 10; ++press) {
+        QTest::keyClick(&picture(), Qt::Key_PageUp);
+        boxesAgree("Page Up");
+    }
+    EXPECT_NEAR(side(), start * std::pow(0.95, 10), 0.011);
+    item("mnuZoom")->trigger();
+    boxesAgree("Zoom In");
+    item("mnuUndo")->trigger();
+    boxesAgree("Undo Zoom");
+    item("mnuDrawRestore")->trigger();
+    boxesAgree("Restore");
+    QTest::keyClick(&picture(), Qt::Key_PageUp);
+    item("mnuDrawRestore")->trigger();
+    item("mnuUndo")->trigger();
+    boxesAgree("Undo Zoom after Restore");
+    QTest::keyClick(&picture(), Qt::Key_PageDown);
+    boxesAgree("Page Down");
+    QLineEdit* maps = frame->functionsWindow()->txtMaps();
+    maps->setFocus();
+    maps->selectAll();
+    QTest::keyClicks(maps, "3");
+    QTest::keyClick(maps, Qt::Key_Return);
+    QApplication::processEvents();
+    boxesAgree("txtMaps");
+    item("mnuCalcScale")->trigger();
+    boxesAgree("Scale to Fit");
 }
 
 TEST_F(FractalWindowTest, ArrowsShiftTheViewByOnePercent) {
