@@ -1,5 +1,6 @@
 #include "core/fractal_list.h"
 
+#include "core/function_forms.h"
 #include "core/function_table.h"
 #include "core/host.h"
 #include "core/numbers.h"
@@ -31,6 +32,22 @@ void repairProbabilities(IFSEntry& entry) {
 std::string firstComment(const IFSEntry& ifs) {
     return ifs.nComments >= 1 ? RTrim(ifs.Comment[1]) : std::string();
 }
+bool takeEntry(Workbench& wb, int n) {
+    if (!validEntry(wb, n)) return false;
+    IFSEntry& entry = wb.FractalList[n];
+    if (entry.nMaps <= 0 || entry.nMaps > MaxMaps) return false;
+    repairProbabilities(entry);
+    wb.FunctionsCaption = "IFS [" + Trim(entry.Name) + "]";
+    wb.lblComment = firstComment(entry);
+    wb.txtMaps = std::to_string(entry.nMaps);
+    wb.CurrentIFS = entry;
+    // Taking an entry shows r and s rounded and its own phi for d = 0; the next edit of a row puts it right.
+    WriteTableRows(wb, RowTextSource::ListEntry);
+    wb.SelectedIFS = static_cast<int16_t>(n);
+    CheckListEntry(wb, n);
+    return true;
+}
+
 }  // namespace
 
 std::string NamesKey(int index) {
@@ -86,23 +103,15 @@ bool TakeListEntry(Workbench& wb, Host& host, int n) {
         host.warn("Error", NoFunctionsText);
         return false;
     }
-    return TakeListEntry(wb, n);
+    if (!takeEntry(wb, n)) return false;
+    // More rows than the full matrix layout holds fall back to the compact form, with its warning.
+    SetUpFunctions(wb, host, wb.CurrentIFS.nMaps);
+    return true;
 }
 
 bool TakeListEntry(Workbench& wb, int n) {
-    if (!validEntry(wb, n)) return false;
-    IFSEntry& entry = wb.FractalList[n];
-    if (entry.nMaps <= 0 || entry.nMaps > MaxMaps) return false;
-    repairProbabilities(entry);
-    wb.FunctionsCaption = "IFS [" + Trim(entry.Name) + "]";
-    wb.lblComment = firstComment(entry);
-    wb.txtMaps = std::to_string(entry.nMaps);
-    wb.CurrentIFS = entry;
-    // Taking an entry shows r and s rounded and its own phi for d = 0; the next edit of a row puts it right.
-    WriteTableRows(wb, RowTextSource::ListEntry);
-    wb.SelectedIFS = static_cast<int16_t>(n);
-    CheckListEntry(wb, n);
-    return true;
+    SilentHost quiet;
+    return TakeListEntry(wb, quiet, n);
 }
 
 }  // namespace quillane

@@ -28,7 +28,9 @@ void CheckListEntry(Workbench& wb, int n);
 // Takes entry n of the list as CurrentIFS: repairs all-zero probabilities in the entry, sets the
 // table caption, lblComment and txtMaps, writes the table's texts and old texts in the form in use as
 // a taken entry shows them (RowTextSource::ListEntry), selects and checks the entry. Returns false for
-// an entry without functions. setscale and the design are redrawn by the windows that call it.
+// an entry without functions. Then SetUpFunctions lays out its rows: more than the full matrix form
+// holds fall back to the compact form, with the warning. setscale and the design are redrawn by the
+// windows that call it.
 bool TakeListEntry(Workbench& wb, Host& host, int n);
 // The same without a box, for the start, before any window can show one.
 bool TakeListEntry(Workbench& wb, int n);

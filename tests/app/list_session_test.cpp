@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/code_commands.h"
 #include "app/file_commands.h"
 #include "app/list_commands.h"
 #include "core/menu_tree.h"
@@ -91,6 +92,30 @@ TEST(ListEntryClick, AnUntitledIFSWithOneFunctionIsReplacedWithoutAQuestion) {
     EXPECT_TRUE(mnuNamesEntry_Click(b.wb, b.pics, b.host, 5));
     EXPECT_EQ(b.host.shown(), Messages{});
     EXPECT_EQ(b.wb.CurrentIFS.Name, "Plain");
+}
+
+// Taking an entry lays its rows out through SetUpFunctions: 40 maps do not fit the full matrix form.
+TEST(ListEntryClick, FortyMapsTakenInTheFullMatrixFormFallBackToTheCompactFormWithTheWarning) {
+    ListBench b;
+    setList(b.wb, {numberedEntry("Small", 2), numberedEntry("Forty", 40)});
+    mnuCodeMatrixFormat_Click(b.wb, b.host);
+    ASSERT_EQ(b.wb.MatrixFunctionForm, 1);
+    EXPECT_TRUE(mnuNamesEntry_Click(b.wb, b.pics, b.host, 6));
+    EXPECT_EQ(b.host.shown(), (Messages{{"Warning",
+                                         "The matrix function form can only be used\nwith at most 35 functions. "
+                                         "The format will\nbe reset to the matrix compact form.    "}}));
+    EXPECT_EQ(b.wb.MatrixFunctionForm, 0);
+    EXPECT_TRUE(b.wb.menu("mnuMatrix").checked);
+    EXPECT_FALSE(b.wb.menu("mnuCodeMatrixFormat").checked);
+    EXPECT_EQ(b.wb.Table.LastMaps, 40);
+    EXPECT_EQ(b.wb.txtMaps, "40");
+    // Small entries keep the form.
+    EXPECT_TRUE(mnuNamesEntry_Click(b.wb, b.pics, b.host, 5));
+    b.host.clear();
+    mnuCodeMatrixFormat_Click(b.wb, b.host);
+    EXPECT_TRUE(mnuNamesEntry_Click(b.wb, b.pics, b.host, 5));
+    EXPECT_EQ(b.wb.MatrixFunctionForm, 1);
+    EXPECT_EQ(b.host.shown(), Messages{});
 }
 
 TEST(ListEntryClick, AnUntitledIFSWithTwoModifiedFunctionsAsksFirst) {
