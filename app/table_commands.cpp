@@ -1,5 +1,8 @@
 #include "app/table_commands.h"
 
+#include "app/chaos_design.h"
+#include "app/transform_count_commands.h"
+
 #include <algorithm>
 #include <string>
 
@@ -155,9 +158,14 @@ MapsCommit txtMaps_Commit(Workbench& wb, Host& host, bool focusLost) {
     const int n = CInt(v);
     const int before = wb.CurrentIFS.nMaps;
     SetUpFunctions(wb, host, n);
-    // A new function starts as the one function of a fresh IFS.
-    const IFSFunction fresh = DefaultIFS().function(0);
-    for (int i = before; i < n; ++i) wb.CurrentIFS.setFunction(i, fresh);
+    // Each added function is placed as the design's New places one, so no two land on each other.
+    wb.CurrentIFS.nMaps = static_cast<int16_t>(std::min(before, n));
+    for (int i = before; i < n; ++i) {
+        if (wb.DesignMode == 1)
+            newCGFixedPoint(wb, host, true, 10000, 10000);
+        else
+            NewDesignPoly(wb, host, true);
+    }
     wb.CurrentIFS.nMaps = static_cast<int16_t>(n);
     PropProb(wb);
     WriteTableRows(wb);

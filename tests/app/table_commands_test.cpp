@@ -1,4 +1,5 @@
 #include "app/table_commands.h"
+#include "app/chaos_design.h"
 
 #include <gtest/gtest.h>
 
@@ -226,7 +227,12 @@ TEST(txtMaps, FromThreeToFourSelectsTheNewFunction) {
     EXPECT_EQ(t.wb.CurrentIFS.nMaps, 4);
     EXPECT_EQ(t.wb.Table.LastMaps, 4);
     EXPECT_EQ(t.wb.CurrentIFS.a[3], 0.5f);
-    EXPECT_EQ(t.wb.CurrentIFS.e[3], 0.0f);
+    // Placed as the design's New places a function: 10% to 50% of the span from the low end.
+    const WorldWindow& w = t.wb.DesignWindow;
+    EXPECT_GE(t.wb.CurrentIFS.e[3], w.xmin + 0.1f * (w.xmax - w.xmin) - 1e-6f);
+    EXPECT_LE(t.wb.CurrentIFS.e[3], w.xmin + 0.5f * (w.xmax - w.xmin) + 1e-6f);
+    EXPECT_GE(t.wb.CurrentIFS.f[3], w.ymin + 0.1f * (w.ymax - w.ymin) - 1e-6f);
+    EXPECT_LE(t.wb.CurrentIFS.f[3], w.ymin + 0.5f * (w.ymax - w.ymin) + 1e-6f);
     for (int i = 0; i < 4; ++i) EXPECT_EQ(t.wb.Table.text(7, i), "0.250") << i;
     EXPECT_EQ(t.wb.Table.text(4, 3), "0.500");
     EXPECT_EQ(t.wb.ChangeCount, 1);
@@ -244,6 +250,31 @@ TEST(txtMaps, FromThreeToSixSelectsNone) {
     EXPECT_FALSE(t.wb.MapSelected);
     EXPECT_EQ(t.wb.CurrentIFS.nMaps, 6);
     EXPECT_EQ(t.wb.Table.text(1, 5), "0.500");
+}
+
+TEST(txtMaps, AddedFunctionsAreNotOnTopOfEachOther) {
+    TableBench t;
+    t.wb.txtMaps = "5";
+    txtMaps_Commit(t.wb, t.host, false);
+    const IFSEntry& ifs = t.wb.CurrentIFS;
+    EXPECT_TRUE(ifs.e[3] != ifs.e[4] || ifs.f[3] != ifs.f[4]);
+    EXPECT_TRUE(ifs.e[3] != 0 || ifs.f[3] != 0);
+    EXPECT_EQ(t.wb.Table.text(5, 3), Format(ifs.e[3], "0.000"));
+}
+
+TEST(txtMaps, InChaosGameModeAddedFunctionsAreNewFixedPoints) {
+    TableBench t;
+    ASSERT_TRUE(mnuNewChaosGame_Click(t.wb, t.host));
+    t.wb.txtMaps = "3";
+    txtMaps_Commit(t.wb, t.host, false);
+    const IFSEntry& ifs = t.wb.CurrentIFS;
+    ASSERT_EQ(ifs.nMaps, 3);
+    for (int i = 1; i < 3; ++i) {
+        EXPECT_EQ(ifs.Step[1][i], "S") << i;
+        EXPECT_EQ(ifs.Scale[i], 0.5f) << i;
+    }
+    EXPECT_TRUE(ifs.FPx[1] != ifs.FPx[2] || ifs.FPy[1] != ifs.FPy[2]);
+    EXPECT_EQ(t.wb.Table.text(1, 2), "S");
 }
 
 TEST(txtMaps, FewerFunctionsSelectNoneEither) {
