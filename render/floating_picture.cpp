@@ -114,6 +114,11 @@ bool LiftPlacedPicture(Workbench& wb, FractalPictures& pics) {
         pics.Floating.Visible)
         return false;
     for (RasterSurface* s : {&pics.picfractal, &pics.picImage2, &pics.picImage3}) s->clear();
+    FloatPlacedPictureAgain(pics);
+    return true;
+}
+
+void FloatPlacedPictureAgain(FractalPictures& pics) {
     int64_t column = 0, row = 0;
     if (pics.picfractal.toPixel(pics.PasteX, pics.PasteY, column, row)) {
         pics.Floating.Left = static_cast<int>(column);
@@ -122,7 +127,6 @@ bool LiftPlacedPicture(Workbench& wb, FractalPictures& pics) {
     pics.Floating.Visible = true;
     pics.PictureOverlaid = false;
     pics.picCoord = PasteCornersText(pics);
-    return true;
 }
 
 int GrabHandleAt(const FloatingPicture& f, int x, int y) {

@@ -35,6 +35,8 @@ void FloatingOrigin(const FractalPictures& pics, double& x, double& y);
 void PlaceFractalSelection(Workbench& wb, FractalPictures& pics);
 // Hides picPaste and forgets the picture.
 void ClearFractalPicPaste(FractalPictures& pics);
+// The placed picture floats again where it was placed, its corners in picCoord.
+void FloatPlacedPictureAgain(FractalPictures& pics);
 // Esc in Deterministic mode at level 0 with a placed picture figure: the picture floats again.
 bool LiftPlacedPicture(Workbench& wb, FractalPictures& pics);
 

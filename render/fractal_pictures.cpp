@@ -68,14 +68,10 @@ void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
         ClearImageDeterministicBranch(wb, pics);
         return;
     }
-    if (pics.Floating.Visible) {
-        PlaceFractalSelection(wb, pics);
-    } else if (!KeepPicture) {
-        pics.PictureOverlaid = false;
-    } else if (pics.PictureOverlaid) {
-        for (RasterSurface* s : {&pics.picfractal, &pics.picImage2})
-            s->paint(pics.picPaste, pics.PasteX, pics.PasteY, RasterOp::Copy);
-    }
+    if (!KeepPicture && !pics.Floating.Visible) pics.PictureOverlaid = false;
+    if (pics.Floating.Visible) PlaceFractalSelection(wb, pics);
+    // A kept picture floats again at its place, to be moved or placed anew.
+    if (KeepPicture && pics.PictureOverlaid) FloatPlacedPictureAgain(pics);
 }
 
 void RestoreSelectionPen(FractalPictures& pics) {

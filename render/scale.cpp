@@ -131,7 +131,8 @@ bool setscale(Workbench& wb, Host& host, bool Redraw, FractalPictures* pics) {
     WriteWindowText(wb);
     if (Redraw && pics) {
         ScalefrmFractalWindows(wb, *pics, xmin, xmax, ymin, ymax, false);
-        ClearImage(wb, *pics, pics->PictureOverlaid);
+        // The placed picture is kept only when it is placed, not while it floats.
+        ClearImage(wb, *pics, pics->PictureOverlaid && !pics->Floating.Visible);
     }
     return true;
 }

@@ -175,10 +175,22 @@ TEST_F(Floating, ClearBackgroundPictureForgetsIt) {
     EXPECT_EQ(countOf(pics.picfractal, Red), 0);
 }
 
-TEST_F(Floating, CtrlDeleteKeepsAPlacedPictureAndDeleteDropsIt) {
+// Ctrl+Delete keeps a placed picture by floating it again where it was, with its corners printed;
+// Delete places a floating picture, and drops a placed one.
+TEST_F(Floating, CtrlDeleteFloatsAPlacedPictureAgainAndDeleteDropsIt) {
     FloatPicture(pics, halves(20, 10));
+    const FloatingPicture placedAt = pics.Floating;
     PlaceFractalSelection(wb, pics);
+    pics.picCoord.clear();
     EXPECT_TRUE(FractalKeyDown(wb, pics, host, KeyDelete, ShiftMaskCtrl));
+    EXPECT_TRUE(pics.Floating.Visible);
+    EXPECT_EQ(pics.Floating.Left, placedAt.Left);
+    EXPECT_EQ(pics.Floating.Top, placedAt.Top);
+    EXPECT_EQ(pics.picCoord, PasteCornersText(pics));
+    EXPECT_FALSE(pics.picCoord.empty());
+    EXPECT_EQ(countOf(pics.picfractal, Red), 0);
+    EXPECT_TRUE(FractalKeyDown(wb, pics, host, KeyDelete, 0));
+    EXPECT_FALSE(pics.Floating.Visible);
     EXPECT_TRUE(pics.PictureOverlaid);
     EXPECT_EQ(countOf(pics.picfractal, Red), 100);
     EXPECT_TRUE(FractalKeyDown(wb, pics, host, KeyDelete, 0));

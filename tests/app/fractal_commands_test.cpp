@@ -91,6 +91,11 @@ TEST(ClearImage, DropsTheSelectionAndResetsTheZoomCaption) {
     ClearImage(b.wb, b.pics, true);
     EXPECT_FALSE(b.pics.Selection.SelectionActive);
     EXPECT_EQ(b.wb.menu("mnuZoom").caption, "Zoom In\tPage Up");
+    // The kept picture floats again, to be placed anew.
+    EXPECT_TRUE(b.pics.Floating.Visible);
+    EXPECT_FALSE(b.pics.PictureOverlaid);
+    ClearImage(b.wb, b.pics, false);
+    EXPECT_FALSE(b.pics.Floating.Visible);
     EXPECT_TRUE(b.pics.PictureOverlaid);
     ClearImage(b.wb, b.pics, false);
     EXPECT_FALSE(b.pics.PictureOverlaid);
@@ -141,6 +146,8 @@ TEST(FractalKeyDown, DeleteClearsAndKeepsAPlacedPictureOnlyWithCtrl) {
     EXPECT_FALSE(b.wb.DrawingStarted);
     EXPECT_FALSE(b.wb.DrawingActive);
     EXPECT_EQ(b.wb.PointCount, 0);
+    EXPECT_TRUE(b.pics.Floating.Visible);
+    EXPECT_TRUE(FractalKeyDown(b.wb, b.pics, b.host, KeyDelete, 0));
     EXPECT_TRUE(b.pics.PictureOverlaid);
     EXPECT_TRUE(FractalKeyDown(b.wb, b.pics, b.host, KeyDelete, 0));
     EXPECT_FALSE(b.pics.PictureOverlaid);

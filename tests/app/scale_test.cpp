@@ -4,6 +4,7 @@
 
 #include "core/sample_systems.h"
 #include "core/scripted_host.h"
+#include "render/floating_picture.h"
 #include "render/fractal_pictures.h"
 
 namespace quillane {
@@ -116,6 +117,25 @@ TEST(setscale, RedrawAppliesTheWindowToThePictures) {
     EXPECT_DOUBLE_EQ(pics.picfractal.scaleTop(), s.wb.Window.ymax);
     EXPECT_DOUBLE_EQ(pics.picImage2.scaleBottom(), s.wb.Window.ymin);
     EXPECT_EQ(pics.picfractal.pixel(0, 0), White);
+}
+
+// The redraw keeps a placed picture, floating again at its place, only while picPaste is hidden: a
+// picture that floats is placed by the clearing instead.
+TEST(setscale, RedrawKeepsAPlacedPictureOnlyWhenPicPasteIsHidden) {
+    ScaleBench s(SierpinskiTriangleIFS());
+    FractalPictures pics;
+    pics.resize(50, White);
+    RasterSurface image(10, 10, 0x0000FF);
+    FloatPicture(pics, image);
+    PlaceFractalSelection(s.wb, pics);
+    ASSERT_TRUE(pics.PictureOverlaid);
+    EXPECT_TRUE(setscale(s.wb, s.host, true, &pics));
+    EXPECT_TRUE(pics.Floating.Visible);
+    EXPECT_FALSE(pics.PictureOverlaid);
+    // Now it floats: the redraw does not keep it, it places it.
+    EXPECT_TRUE(setscale(s.wb, s.host, true, &pics));
+    EXPECT_FALSE(pics.Floating.Visible);
+    EXPECT_TRUE(pics.PictureOverlaid);
 }
 
 TEST(SquareWindow, WidensTheShorterSide) {
