@@ -30,15 +30,17 @@ bool SavePictureAs(const RasterSurface& picture, const std::string& path, int fi
     return SaveImageFile(picture, path, error);
 }
 
-bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title) {
-    int filter = 1;
+bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title, int& FilterIndex) {
+    int filter = FilterIndex;
     FileDialogRequest request;
     request.title = title;
     request.filters = PictureSaveFilters();
     request.folderKey = "SavePicture";
     request.chosenFilter = &filter;
+    request.initialFilter = FilterIndex;
     const auto name = host.saveFileName(request);
     if (!name) return false;
+    FilterIndex = filter;
     const std::string path = PictureFileNameFor(*name, filter);
     std::string error;
     if (!SavePictureAs(picture, path, filter, error)) {

@@ -23,7 +23,8 @@ bool SavePictureAs(const RasterSurface& picture, const std::string& path, int fi
 
 // mnuSaveFractal (title "Save Fractal Image") and mnuPopupSave (title "Save Image") for a picture:
 // asks for a name, adds the extension, writes; "Image save failed" when the write fails.
-// Returns whether a file was written.
-bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title);
+// The dialog opens on FilterIndex (1 to 4), which keeps the filter chosen, as the folder is kept, until
+// the program ends. Returns whether a file was written.
+bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title, int& FilterIndex);
 
 }  // namespace quillane

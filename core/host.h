@@ -26,6 +26,8 @@ struct FileDialogRequest {
     std::string folderKey;
     // When set, receives the filter the person chose, counted from 1.
     int* chosenFilter = nullptr;
+    // The filter selected when the dialog opens, counted from 1; 0 leaves the first.
+    int initialFilter = 0;
 };
 
 class Host {

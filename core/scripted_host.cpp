@@ -1,5 +1,7 @@
 #include "core/scripted_host.h"
 
+#include <algorithm>
+
 namespace quillane {
 
 Answer ScriptedHost::message(MessageIcon icon, const std::string& title, const std::string& text,
@@ -17,7 +19,8 @@ Answer ScriptedHost::message(MessageIcon icon, const std::string& title, const s
 std::optional<std::string> ScriptedHost::nextFileName(const FileDialogRequest& request) {
     dialogs_.push_back(request);
     if (request.chosenFilter) {
-        *request.chosenFilter = filters.empty() ? 1 : filters.front();
+        // Without a scripted choice the person keeps the filter the dialog opened on.
+        *request.chosenFilter = filters.empty() ? std::max(request.initialFilter, 1) : filters.front();
         if (!filters.empty()) filters.pop_front();
     }
     if (fileNames.empty()) return std::nullopt;

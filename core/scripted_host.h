@@ -23,7 +23,7 @@ class ScriptedHost : public Host {
     // Names for the next file dialogs; an empty optional stands for Cancel.
     std::deque<std::optional<std::string>> fileNames;
     std::deque<std::optional<Color>> colors;
-    // The filters chosen in the next file dialogs that ask for one (1 when empty).
+    // The filters chosen in the next file dialogs that ask for one (when empty, the one it opened on).
     std::deque<int> filters;
     // Runs at every yield, so a test can act "during" a loop.
     std::function<void(int yieldNumber)> onYield;

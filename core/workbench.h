@@ -106,6 +106,7 @@ class Workbench {
 
     // Files and settings.
     std::string IFSFileName;  // the list's file, empty when none is loaded
+    int SavePictureFilter = 1;  // the picture save dialog's last filter, kept until the program ends
     std::array<std::string, RecentFileSlots> RecentFiles;
     int RecentFileCount = 0;
     bool SettingsChanged = false;

@@ -114,9 +114,9 @@ void registerPictures(MainWindow& frame) {
     frame.setCommand("mnuEditCopy", copy);
     frame.setCommand("mnuPopupCopy", copy);
     frame.setCommand("mnuSaveFractal",
-                     [&s, &host] { SavePictureCommand(s.pics.picfractal, host, SaveFractalTitle); });
+                     [&s, &host] { SavePictureCommand(s.pics.picfractal, host, SaveFractalTitle, s.wb.SavePictureFilter); });
     frame.setCommand("mnuPopupSave",
-                     [&s, &host] { SavePictureCommand(s.pics.picfractal, host, SaveImageTitle); });
+                     [&s, &host] { SavePictureCommand(s.pics.picfractal, host, SaveImageTitle, s.wb.SavePictureFilter); });
     frame.setCommand("mnuPopUpClear", [] {});
 }
 

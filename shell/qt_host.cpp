@@ -89,7 +89,12 @@ std::optional<std::string> QtHost::fileDialog(const FileDialogRequest& request, 
     QFileDialog dialog(parent_, QString::fromStdString(request.title), startFolder(request.folderKey));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    if (!request.filters.empty()) dialog.setNameFilters(nameFilters(request.filters));
+    if (!request.filters.empty()) {
+        const QStringList filters = nameFilters(request.filters);
+        dialog.setNameFilters(filters);
+        if (request.initialFilter >= 1 && request.initialFilter <= filters.size())
+            dialog.selectNameFilter(filters[request.initialFilter - 1]);
+    }
     if (!request.initialName.empty()) dialog.selectFile(QString::fromStdString(request.initialName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     const QString chosen = dialog.selectedFiles().constFirst();

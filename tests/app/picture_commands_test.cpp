@@ -36,7 +36,8 @@ TEST(PictureFileName, ANameWithAnotherExtensionGetsTheFiltersBehindIt) {
 
 TEST(SaveFractal, TheDialogHasTheTitleAndTheFourFiltersInOrder) {
     ScriptedHost host;
-    EXPECT_FALSE(SavePictureCommand(marked(), host, SaveFractalTitle));
+    int filter = 1;
+    EXPECT_FALSE(SavePictureCommand(marked(), host, SaveFractalTitle, filter));
     ASSERT_EQ(host.dialogs().size(), 1u);
     EXPECT_EQ(host.dialogs()[0].title, "Save Fractal Image");
     const auto f = host.dialogs()[0].filters;
@@ -55,7 +56,9 @@ TEST(SaveFractal, EachFilterWritesItsFormatAndTheBitmapReadsBackExactly) {
         const std::string base = dir.path("picture" + std::to_string(filter));
         host.fileNames.push_back(base);
         host.filters.push_back(filter);
-        ASSERT_TRUE(SavePictureCommand(marked(), host, SaveFractalTitle)) << filter;
+        int last = 1;
+        ASSERT_TRUE(SavePictureCommand(marked(), host, SaveFractalTitle, last)) << filter;
+        EXPECT_EQ(last, filter);
         const std::string path = PictureFileNameFor(base, filter);
         ASSERT_TRUE(std::filesystem::exists(path)) << path;
         RasterSurface back;
@@ -71,12 +74,32 @@ TEST(SaveFractal, EachFilterWritesItsFormatAndTheBitmapReadsBackExactly) {
     }
 }
 
+// The dialog opens on the filter chosen last time, by either title, until the program ends; a
+// cancelled dialog changes nothing.
+TEST(SaveFractal, TheDialogRemembersItsFilter) {
+    TempDir dir;
+    ScriptedHost host;
+    int remembered = 1;
+    host.fileNames.push_back(dir.path("first"));
+    host.filters.push_back(2);
+    ASSERT_TRUE(SavePictureCommand(marked(), host, SaveFractalTitle, remembered));
+    EXPECT_EQ(remembered, 2);
+    host.fileNames.push_back(std::nullopt);
+    EXPECT_FALSE(SavePictureCommand(marked(), host, SaveImageTitle, remembered));
+    EXPECT_EQ(remembered, 2);
+    ASSERT_EQ(host.dialogs().size(), 2u);
+    EXPECT_EQ(host.dialogs()[0].initialFilter, 1);
+    EXPECT_EQ(host.dialogs()[1].initialFilter, 2);
+    EXPECT_EQ(host.dialogs()[1].folderKey, host.dialogs()[0].folderKey);
+}
+
 TEST(SaveFractal, AFailedWriteSaysImageSaveFailed) {
     TempDir dir;
     ScriptedHost host;
     host.fileNames.push_back(dir.path("no-such-folder/inside/picture"));
     host.filters.push_back(4);
-    EXPECT_FALSE(SavePictureCommand(marked(), host, SaveImageTitle));
+    int filter = 1;
+    EXPECT_FALSE(SavePictureCommand(marked(), host, SaveImageTitle, filter));
     EXPECT_EQ(host.shown(), (std::vector<ShownMessage>{{"Error", "Image save failed"}}));
     EXPECT_EQ(host.dialogs()[0].title, "Save Image");
 }
