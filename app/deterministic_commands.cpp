@@ -134,4 +134,14 @@ bool DeterministicDigitKey(Workbench& wb, FractalPictures& pics, Host& host, int
 }
 
 
+void mnuDrawOverlay_Click(Workbench& wb) {
+    if (wb.RandomMode || wb.DrawingActive || !wb.menu("mnuDrawOverlay").enabled) return;
+    wb.Menu.setChecked("mnuDrawOverlay", !wb.menu("mnuDrawOverlay").checked);
+}
+
+void mnuDrawDetColorItems_Click(Workbench& wb, InitialFigures& figs, int Index) {
+    if (wb.RandomMode || wb.DrawingActive || Index < 0 || Index > 1) return;
+    SetFigureColorChoice(wb, figs, Index == 0);
+}
+
 }  // namespace quillane

@@ -254,4 +254,21 @@ void mnuDrawFreezeScale_Click(Workbench& wb) {
         wb.Menu.setEnabled(k, !frozen);
 }
 
+void mnuDrawScaleDesign_Click(Workbench& wb, FractalPictures& pics, Host& host) {
+    if (wb.DrawingActive || wb.menu("mnuDrawFreezeScale").checked) return;
+    wb.Window = wb.DesignWindow;
+    pics.Det.DetWindow = wb.DesignWindow;
+    pics.Det.DetWindowStored = true;
+    wb.txtWin = wb.txtDesign;
+    float xmin = wb.Window.xmin, xmax = wb.Window.xmax, ymin = wb.Window.ymin, ymax = wb.Window.ymax;
+    ScalefrmFractalWindows(wb, pics, xmin, xmax, ymin, ymax, false);
+    if (wb.RandomMode) {
+        ClearImage(wb, pics, false);
+        return;
+    }
+    pics.picfractal.clear();
+    DrawDetFigure(wb, pics, host, false);
+    pics.picImage2.takeImage(pics.picfractal);
+}
+
 }  // namespace quillane

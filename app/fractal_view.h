@@ -50,6 +50,9 @@ void UndoZoom(Workbench& wb, FractalPictures& pics, Host& host);
 
 void mnuCalcScale_Click(Workbench& wb, FractalPictures& pics, Host& host);
 void mnuDrawFreezeScale_Click(Workbench& wb);
+// "&Scale to Design Window": the design window's window becomes the fractal window's (and the one a
+// change to Deterministic returns to), its boxes copied to txtWin; then the picture starts again.
+void mnuDrawScaleDesign_Click(Workbench& wb, FractalPictures& pics, Host& host);
 void mnuRun_Click(Workbench& wb, FractalPictures& pics, Host& host);
 void mnuStop_Click(Workbench& wb);
 void mnuClear_Click(Workbench& wb, FractalPictures& pics);

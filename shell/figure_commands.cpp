@@ -61,6 +61,9 @@ void RegisterFigureCommands(MainWindow& frame) {
         if (active && frame.fractalWindow() && active->widget() == frame.fractalWindow())
             PasteFractalFigure(s.wb, s.pics, host, memory->figs);
     });
+    for (int k = 0; k <= 1; ++k)
+        frame.setCommand("mnuDrawDetColorItems(" + std::to_string(k) + ")",
+                         [&s, memory, k] { mnuDrawDetColorItems_Click(s.wb, memory->figs, k); });
     frame.setCommand("mnuDrawType(0)", [&s, &host] { mnuDrawType_Click(s.wb, s.pics, host, 0); });
     frame.setCommand("mnuDrawType(1)", [&s, &host] { mnuDrawType_Click(s.wb, s.pics, host, 1); });
 }

@@ -7,6 +7,7 @@
 #include <QScreen>
 
 #include "render/floating_picture.h"
+#include "app/deterministic_commands.h"
 #include "app/fractal_view.h"
 #include "app/list_entry_commands.h"
 #include "app/picture_commands.h"
@@ -79,6 +80,8 @@ void registerView(MainWindow& frame) {
     Host& host = frame.host();
     frame.setCommand("mnuCalcScale", [&s, &host] { mnuCalcScale_Click(s.wb, s.pics, host); });
     frame.setCommand("mnuDrawFreezeScale", [&s] { mnuDrawFreezeScale_Click(s.wb); });
+    frame.setCommand("mnuDrawScaleDesign", [&s, &host] { mnuDrawScaleDesign_Click(s.wb, s.pics, host); });
+    frame.setCommand("mnuDrawOverlay", [&s] { mnuDrawOverlay_Click(s.wb); });
     frame.setCommand("mnuZoom", [&s, &host] { mnuZoom_Click(s.wb, s.pics, host); });
     frame.setCommand("mnuDrawRestore", [&s, &host] { ZoomOut(s.wb, s.pics, host, -1, true); });
     static constexpr int percents[] = {5, 25, 50, 100};

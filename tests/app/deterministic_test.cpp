@@ -8,6 +8,7 @@
 
 #include "fractal_view_fixture.h"
 #include "app/deterministic_commands.h"
+#include "app/fractal_view.h"
 
 namespace quillane {
 namespace {
@@ -233,6 +234,75 @@ TEST(DeterministicOverlay, EachLevelTakesTheNextFunctionColourAndKeepsTheEarlier
     EXPECT_EQ(d.pics.picfractal.point(0.5, 0.33), figure);
     EXPECT_EQ(paintedIn(d.pics.picfractal, Blue), 0);
     EXPECT_EQ(d.wb.IterationNumber, 2);
+}
+
+// The menu items reach the overlay and image-colour scans: offered in Deterministic mode only.
+TEST(DeterministicMenus, OverlayImagesThroughTheMenuKeepsTheEarlierLevels) {
+    DetBench d;
+    mnuDrawOverlay_Click(d.wb);
+    EXPECT_TRUE(d.wb.menu("mnuDrawOverlay").checked);
+    d.level();
+    d.level();
+    EXPECT_EQ(d.pics.picfractal.point(0.1, 0.05), Green);
+    EXPECT_EQ(d.pics.picfractal.point(0.25, 0.16), Red);
+    mnuDrawOverlay_Click(d.wb);
+    EXPECT_FALSE(d.wb.menu("mnuDrawOverlay").checked);
+    // Back in Random mode the item is off and unchecked; the command does nothing there.
+    mnuDrawOverlay_Click(d.wb);
+    mnuDrawType_Click(d.wb, d.pics, d.host, 0);
+    EXPECT_FALSE(d.wb.menu("mnuDrawOverlay").checked);
+    EXPECT_FALSE(d.wb.menu("mnuDrawOverlay").enabled);
+    mnuDrawOverlay_Click(d.wb);
+    EXPECT_FALSE(d.wb.menu("mnuDrawOverlay").checked);
+}
+
+TEST(DeterministicMenus, UseImageColorsThroughTheMenuCopiesThePicturesColours) {
+    IFSEntry ifs = SierpinskiTriangleIFS();
+    ifs.e[2] = 0;
+    DetBench d(ifs, {0, 1, 0, 1}, 128);
+    InitialFigures figs;
+    figs.savedUseIFSColors = true;
+    mnuDrawDetColorItems_Click(d.wb, figs, 1);
+    EXPECT_FALSE(d.wb.menu("mnuDrawDetColorItems(0)").checked);
+    EXPECT_TRUE(d.wb.menu("mnuDrawDetColorItems(1)").checked);
+    EXPECT_FALSE(figs.savedUseIFSColors.has_value());
+    setSource(d.pics, [](int c, int) { return c < 64 ? Red : Green; });
+    d.level();
+    EXPECT_EQ(d.pics.picfractal.point(0.1, 0.25), Red);
+    EXPECT_EQ(d.pics.picfractal.point(0.4, 0.25), Green);
+    // The IFS colours again: each copy in its map's colour.
+    mnuDrawDetColorItems_Click(d.wb, figs, 0);
+    EXPECT_TRUE(d.wb.menu("mnuDrawDetColorItems(0)").checked);
+    setSource(d.pics, [](int c, int) { return c < 64 ? Red : Green; });
+    d.level();
+    EXPECT_EQ(d.pics.picfractal.point(0.4, 0.25), Red);
+    EXPECT_EQ(d.pics.picfractal.point(0.6, 0.25), Green);
+}
+
+TEST(DeterministicMenus, ScaleToDesignWindowTakesTheDesignsWindowInBothDrawings) {
+    DetBench d;
+    d.wb.DesignWindow = {-2, 2, -1, 3};
+    d.wb.txtDesign = {"3.000", "-1.000", "-2.000", "2.000"};
+    mnuDrawScaleDesign_Click(d.wb, d.pics, d.host);
+    EXPECT_EQ(d.wb.Window, (WorldWindow{-2, 2, -1, 3}));
+    EXPECT_EQ(d.wb.txtWin, d.wb.txtDesign);
+    EXPECT_EQ(d.pics.Det.DetWindow, d.wb.Window);
+    EXPECT_DOUBLE_EQ(d.pics.picfractal.scaleLeft(), -2);
+    EXPECT_DOUBLE_EQ(d.pics.picfractal.scaleTop(), 3);
+    // The figure is drawn again in the new view, and is the level-0 image.
+    EXPECT_GT(paintedIn(d.pics.picfractal, d.pics.Det.DetSingleColor), 0);
+    EXPECT_EQ(pixelsOf(d.pics.picImage2), pixelsOf(d.pics.picfractal));
+    // Random mode clears the picture in the new view; a running drawing refuses.
+    mnuDrawType_Click(d.wb, d.pics, d.host, 0);
+    d.wb.DesignWindow = {0, 1, 0, 1};
+    d.wb.txtDesign = {"1.000", "0.000", "0.000", "1.000"};
+    d.wb.DrawingActive = true;
+    mnuDrawScaleDesign_Click(d.wb, d.pics, d.host);
+    EXPECT_EQ(d.wb.Window, (WorldWindow{-2, 2, -1, 3}));
+    d.wb.DrawingActive = false;
+    mnuDrawScaleDesign_Click(d.wb, d.pics, d.host);
+    EXPECT_EQ(d.wb.Window, (WorldWindow{0, 1, 0, 1}));
+    EXPECT_EQ(paintedPixels(d.pics.picfractal), 0);
 }
 
 TEST(DeterministicAbort, QAtAYieldEndsTheLevelAfterThatRowWithoutCounting) {

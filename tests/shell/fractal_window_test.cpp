@@ -169,6 +169,29 @@ TEST_F(FractalWindowTest, TheWindowBoxesFollowEveryViewCommandAndTableChange) {
     boxesAgree("Scale to Fit");
 }
 
+TEST_F(FractalWindowTest, OverlayColourItemsAndScaleToDesignAreConnectedWithTheirRules) {
+    EXPECT_TRUE(item("mnuDrawScaleDesign")->isEnabled());
+    EXPECT_FALSE(item("mnuDrawOverlay")->isEnabled());
+    EXPECT_FALSE(item("mnuDrawDetColors")->isEnabled());
+    item("mnuDrawType(1)")->trigger();
+    EXPECT_TRUE(item("mnuDrawDetColors")->isEnabled());
+    ASSERT_TRUE(item("mnuDrawOverlay")->isEnabled());
+    item("mnuDrawOverlay")->trigger();
+    EXPECT_TRUE(wb().menu("mnuDrawOverlay").checked);
+    EXPECT_TRUE(item("mnuDrawOverlay")->isChecked());
+    ASSERT_TRUE(item("mnuDrawDetColorItems(1)")->isEnabled());
+    item("mnuDrawDetColorItems(1)")->trigger();
+    EXPECT_TRUE(wb().menu("mnuDrawDetColorItems(1)").checked);
+    EXPECT_FALSE(wb().menu("mnuDrawDetColorItems(0)").checked);
+    wb().DesignWindow = {0, 2, 0, 2};
+    wb().txtDesign = {"2.000", "0.000", "0.000", "2.000"};
+    item("mnuDrawScaleDesign")->trigger();
+    EXPECT_EQ(wb().Window, (WorldWindow{0, 2, 0, 2}));
+    EXPECT_EQ(frame->functionsWindow()->txtWin(3)->text().toStdString(), "2.000");
+    item("mnuDrawFreezeScale")->trigger();
+    EXPECT_FALSE(item("mnuDrawScaleDesign")->isEnabled());
+}
+
 TEST_F(FractalWindowTest, ArrowsShiftTheViewByOnePercent) {
     const WorldWindow before = wb().Window;
     QTest::keyClick(&picture(), Qt::Key_Right);
