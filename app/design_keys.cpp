@@ -1,5 +1,7 @@
 #include "app/design_keys.h"
 
+#include "app/chaos_mouse.h"
+
 #include <optional>
 
 #include <algorithm>
@@ -128,6 +130,11 @@ bool DesignKeyDown(Workbench& wb, DesignPictures& d, int KeyCode, int Shift, boo
     if (d.Poly.PolygonMode) return (Shift & ~ShiftMaskShift) == 0 && PolygonModeKey(wb, d, static_cast<char>(KeyCode), Repeat);
     if (wb.DesignMode == 0) return DesignDigitKey(wb, d, KeyCode, Shift);
     return false;
+}
+
+HelpCardLines PicTransHelpCard(const Workbench& wb) {
+    if (wb.DesignMode == 1) return {{CGHelpCard.begin(), CGHelpCard.end()}, CGHelpCardBlankAfter};
+    return {{DesignHelpCard.begin(), DesignHelpCard.end()}, HelpCardBlankAfter};
 }
 
 }  // namespace quillane

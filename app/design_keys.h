@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "core/workbench.h"
 #include "design/design_pictures.h"
@@ -54,5 +55,13 @@ std::optional<int> DigitSelection(int nMaps, DesignPictures& d, int KeyCode, int
 bool DesignDigitKey(Workbench& wb, DesignPictures& d, int KeyCode, int Shift);
 // Esc with a function selected: nothing selected any more.
 void DeselectDesign(Workbench& wb, DesignPictures& d);
+
+// The help card picTrans shows while pressed: bold key, plain meaning, and the pair after which a
+// blank line stands. Chaos game mode has its own.
+struct HelpCardLines {
+    std::vector<std::pair<const char*, const char*>> lines;
+    int blankAfter = 0;
+};
+HelpCardLines PicTransHelpCard(const Workbench& wb);
 
 }  // namespace quillane

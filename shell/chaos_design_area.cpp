@@ -79,7 +79,11 @@ void ChaosDesignArea::released(QPointF world, Qt::MouseButton button, Qt::Keyboa
 
 void ChaosDesignArea::key(QKeyEvent* event) {
     const int code = DesignKeyCodeOf(event->key(), event->modifiers());
-    if (code != 0 && picCGDesign_KeyDown(state_.wb, state_.design, code, shiftOf(event->modifiers()))) done();
+    if (code != 0 && picCGDesign_KeyDown(state_.wb, state_.design, code, shiftOf(event->modifiers()))) {
+        done();
+        return;
+    }
+    if (otherKey) otherKey(event);
 }
 
 void ChaosDesignArea::keyReleaseEvent(QKeyEvent* event) {
@@ -98,6 +102,7 @@ ChaosDesignArea* AttachChaosDesignArea(DesignForm& form, AppState& state, Host& 
             form.refresh();
     };
     form.onRefresh = [area, &form] { area->refresh(form.picture()); };
+    area->otherKey = [&form](QKeyEvent* event) { form.handleKey(event); };
     form.setChaosPicture(area);
     area->refresh(form.picture());
     return area;

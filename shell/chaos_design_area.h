@@ -22,6 +22,8 @@ class ChaosDesignArea : public PictureWidget {
     std::function<void()> changed;
     // Right click alone: the Design menu at a global position.
     std::function<void(QPoint)> popup;
+    // The keys the chaos game does not take go to the design window's own keys.
+    std::function<void(QKeyEvent*)> otherKey;
 
   protected:
     void keyReleaseEvent(QKeyEvent* event) override;

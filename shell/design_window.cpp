@@ -150,14 +150,6 @@ DesignForm::DesignForm(AppState& state, QWidget* parent) : QWidget(parent), stat
     helpCard_ = new QLabel(this);
     helpCard_->setObjectName("frmShortcuts");
     helpCard_->setWindowFlags(Qt::ToolTip);
-    QString card = "<table>";
-    for (int k = 0; k < static_cast<int>(DesignHelpCard.size()); ++k) {
-        card += QString("<tr><td><b>%1</b></td><td>%2</td></tr>")
-                    .arg(DesignHelpCard[static_cast<size_t>(k)].first)
-                    .arg(QString(DesignHelpCard[static_cast<size_t>(k)].second).toHtmlEscaped().replace(" ", "&nbsp;"));
-        if (k + 1 == HelpCardBlankAfter) card += "<tr><td>&nbsp;</td></tr>";
-    }
-    helpCard_->setText(card + "</table>");
     connect(picdesign_, &PictureWidget::mousePressed, this, &DesignForm::onMousePressed);
     connect(picdesign_, &PictureWidget::mouseMoved, this, &DesignForm::onMouseMoved);
     connect(picdesign_, &PictureWidget::mouseReleased, this,
@@ -261,6 +253,17 @@ void DesignForm::showHelpCard(bool show) {
         helpCard_->hide();
         return;
     }
+    // The card of the mode the design is in.
+    const HelpCardLines card = PicTransHelpCard(state_.wb);
+    QString html = "<table>";
+    for (int k = 0; k < static_cast<int>(card.lines.size()); ++k) {
+        const auto& [key, meaning] = card.lines[static_cast<size_t>(k)];
+        html += QString("<tr><td><b>%1</b></td><td>%2</td></tr>")
+                    .arg(key)
+                    .arg(QString(meaning).toHtmlEscaped().replace(" ", "&nbsp;"));
+        if (k + 1 == card.blankAfter) html += "<tr><td>&nbsp;</td></tr>";
+    }
+    helpCard_->setText(html + "</table>");
     helpCard_->adjustSize();
     helpCard_->move(picTrans_->mapToGlobal(QPoint(0, 0)) - QPoint(helpCard_->width(), helpCard_->height()));
     helpCard_->show();

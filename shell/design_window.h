@@ -34,6 +34,8 @@ class DesignPicture : public PictureWidget {
 class DesignForm : public QWidget {
     Q_OBJECT
   public:
+    // A key of the design window: its own keys, then the gestures' keys.
+    void handleKey(QKeyEvent* event);
     DesignForm(AppState& state, QWidget* parent = nullptr);
     // Shows the pictures, the caption, the status boxes and the toolbar as the state has them.
     void refresh();
@@ -67,7 +69,6 @@ class DesignForm : public QWidget {
     void addDropDown(QAction* button, const std::string& command, const std::vector<ToolbarDropItem>& items);
     void layoutPicture();
     void changed();
-    void handleKey(QKeyEvent* event);
     void onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void onMouseMoved(QPointF world, Qt::KeyboardModifiers modifiers);
     void setDesignCursor(DesignCursor cursor);

@@ -2,6 +2,7 @@
 #include <QCheckBox>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -82,6 +83,52 @@ TEST_F(ChaosDesignWindow, DraggingTheReferencePointMovesThePaths) {
     frame->runCommand("mnuUndo");
     EXPECT_FLOAT_EQ(wb().ReferencePoint.x, ref.x);
     EXPECT_EQ(design().picCGDesign.point(ref.x, ref.y), Black);
+}
+
+// The window's own keys reach their commands from the chaos game picture too.
+TEST_F(ChaosDesignWindow, TheDesignKeysWorkOnTheChaosGamePicture) {
+    area()->setFocus();
+    QApplication::processEvents();
+    Workbench& w = frame->state().wb;
+    const WorldWindow before = w.DesignWindow;
+    QTest::keyClick(area(), Qt::Key_PageDown);
+    EXPECT_GT(w.DesignWindow.xmax - w.DesignWindow.xmin, before.xmax - before.xmin);
+    QTest::keyClick(area(), Qt::Key_PageUp);
+    QTest::keyClick(area(), Qt::Key_Home);
+    EXPECT_EQ(item("mnuUndo")->isEnabled(), false);
+    const bool grid = w.menu("mnuDesignGrid").checked;
+    QTest::keyClick(area(), Qt::Key_G, Qt::ControlModifier);
+    EXPECT_NE(w.menu("mnuDesignGrid").checked, grid);
+    const bool axes = w.menu("mnuDesignAxes").checked;
+    QTest::keyClick(area(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_NE(w.menu("mnuDesignAxes").checked, axes);
+    const float gridX = w.GridX;
+    QTest::keyClick(area(), Qt::Key_Plus);
+    EXPECT_NE(w.GridX, gridX);
+    // Escape drops the selection.
+    w.MapSelected = true;
+    w.CGMapSelected = true;
+    QTest::keyClick(area(), Qt::Key_Escape);
+    EXPECT_FALSE(w.MapSelected);
+}
+
+TEST_F(ChaosDesignWindow, PressingPicTransShowsTheChaosGameHelpCard) {
+    auto* picTrans = form().findChild<QWidget*>("picTrans");
+    ASSERT_NE(picTrans, nullptr);
+    QTest::mousePress(picTrans, Qt::LeftButton);
+    auto* card = form().findChild<QLabel*>("frmShortcuts");
+    ASSERT_NE(card, nullptr);
+    EXPECT_TRUE(card->isVisible());
+    EXPECT_TRUE(card->text().contains("Left mouse click on FP"));
+    EXPECT_TRUE(card->text().contains("Ctrl-Right mouse click"));
+    QTest::mouseRelease(picTrans, Qt::LeftButton);
+    EXPECT_FALSE(card->isVisible());
+    // Back in IFS mode the card of the maps comes back.
+    frame->runCommand("mnuNewIFS");
+    QApplication::processEvents();
+    QTest::mousePress(picTrans, Qt::LeftButton);
+    EXPECT_FALSE(card->text().contains("Left mouse click on FP"));
+    QTest::mouseRelease(picTrans, Qt::LeftButton);
 }
 
 TEST_F(ChaosDesignWindow, BackToIFSShowsPicdesignAgain) {
