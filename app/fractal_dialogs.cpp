@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/numbers.h"
+#include "core/window_positions.h"
 #include "app/fractal_view.h"
 
 namespace quillane {
@@ -12,7 +13,6 @@ namespace {
 
 constexpr int32_t MaxRandomCount = 1000000000;
 constexpr int32_t MaxIterations = 100;
-constexpr double TwipsPerInch = 1440;
 constexpr double CmPerInch = 2.54;
 constexpr int MaxImageInches = MaxImageSizeTwips / 1440;
 // The gaps of the layout: 200 and 360 twips, at 15 twips a pixel.
@@ -75,10 +75,6 @@ std::string ImageSizeOptionCaption(int unit, double pixelsPerInch) {
         default:
             return "Max " + std::to_string(maxPixels(pixelsPerInch)) + " pixels";
     }
-}
-
-int TwipsToPixels(int twips, double pixelsPerInch) {
-    return CInt(twips * pixelsPerInch / TwipsPerInch);
 }
 
 void SetImageSize(Workbench& wb, FractalPictures& pics, int twips) {

@@ -8,6 +8,7 @@
 
 #include "core/host.h"
 #include "core/undo_menu.h"
+#include "core/window_positions.h"
 #include "core/workbench.h"
 #include "render/fractal_pictures.h"
 
@@ -84,8 +85,6 @@ std::string ImageSizeOptionCaption(int unit, double pixelsPerInch);
 inline constexpr int MaxImageSizeTwips = 31680;  // 22 inches
 inline constexpr const char* ImageSizeTooSmallMessage =
     "Size must be at least 1 pixel\n(although you won't see much at that size!)";
-// Twips and pixels: twips = pixels * 1440 / pixelsPerInch, 15 twips a pixel at 96.
-int TwipsToPixels(int twips, double pixelsPerInch);
 // The dialog's OK: the side is fixed at `twips` and "Unfreeze Image Size" enabled. The window then
 // lays itself out again (ComputeFractalLayout, ResizeFractalWin).
 void SetImageSize(Workbench& wb, FractalPictures& pics, int twips);

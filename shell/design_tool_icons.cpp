@@ -14,6 +14,7 @@ constexpr int Side = ToolIconSide;
 const QColor Ink(40, 40, 40);
 const QColor Map(30, 110, 200);
 const QColor Warn(200, 40, 40);
+const QColor Ghost(140, 140, 140);  // a map before the change
 
 // The design's picture of a map: a square with the small inner corner that shows its orientation.
 void orientedSquare(QPainter& p, const QTransform& t, QColor colour) {
@@ -34,7 +35,7 @@ void drawNew(QPainter& p) {
 }
 
 void drawDuplicate(QPainter& p) {
-    orientedSquare(p, QTransform::fromTranslate(9, 9), QColor(140, 140, 140));
+    orientedSquare(p, QTransform::fromTranslate(9, 9), Ghost);
     orientedSquare(p, QTransform::fromTranslate(15, 15), Map);
 }
 
@@ -49,27 +50,30 @@ void drawHorizontal(QPainter& p) {
     p.setPen(QPen(Ink, 1, Qt::DashLine));
     p.drawLine(QPointF(12, 2), QPointF(12, 22));
     orientedSquare(p, QTransform(1, 0, 0, 1, 6, 12).scale(0.8, 0.8), Map);
-    orientedSquare(p, QTransform(-1, 0, 0, 1, 18, 12).scale(0.8, 0.8), QColor(140, 140, 140));
+    orientedSquare(p, QTransform(-1, 0, 0, 1, 18, 12).scale(0.8, 0.8), Ghost);
 }
 
 void drawVertical(QPainter& p) {
     p.setPen(QPen(Ink, 1, Qt::DashLine));
     p.drawLine(QPointF(2, 12), QPointF(22, 12));
     orientedSquare(p, QTransform(1, 0, 0, 1, 12, 6).scale(0.8, 0.8), Map);
-    orientedSquare(p, QTransform(1, 0, 0, -1, 12, 18).scale(0.8, 0.8), QColor(140, 140, 140));
+    orientedSquare(p, QTransform(1, 0, 0, -1, 12, 18).scale(0.8, 0.8), Ghost);
 }
 
-// A turning arrow round the middle; `left` turns counterclockwise.
+// The map's square before (grey) and after a turn about its centre, with a short arrow on
+// the turn; `left` turns counterclockwise. Unlike Undo and Redo it shows what turns.
 void drawRotate(QPainter& p, bool left) {
     if (!left) {
         p.translate(Side, 0);
         p.scale(-1, 1);
     }
-    p.setPen(QPen(Map, 2));
+    orientedSquare(p, QTransform::fromTranslate(12, 13).scale(1.3, 1.3), Ghost);
+    orientedSquare(p, QTransform::fromTranslate(12, 13).rotate(-30).scale(1.3, 1.3), Map);
+    p.setPen(QPen(Ink, 1.4));
     p.setBrush(Qt::NoBrush);
-    p.drawArc(QRectF(5, 5, 14, 14), 300 * 16, 240 * 16);
-    p.setPen(QPen(Map, 1));
-    PaintArrowHead(p, {7, 2}, {2, 9}, {11, 10});
+    p.drawArc(QRectF(3, 1, 18, 18), 20 * 16, 70 * 16);
+    p.setPen(QPen(Ink, 1));
+    PaintArrowHead(p, {8, 2.5}, {13, -0.5}, {13, 5.5});
 }
 
 void drawPolygon(QPainter& p) {
@@ -87,7 +91,7 @@ void drawAxes(QPainter& p) {
 }
 
 void drawFixedPoints(QPainter& p) {
-    orientedSquare(p, QTransform::fromTranslate(12, 12).scale(1.4, 1.4), QColor(140, 140, 140));
+    orientedSquare(p, QTransform::fromTranslate(12, 12).scale(1.4, 1.4), Ghost);
     p.setPen(Qt::NoPen);
     p.setBrush(Warn);
     p.drawEllipse(QPointF(12, 12), 3, 3);

@@ -50,7 +50,9 @@ FunctionsWindow::FunctionsWindow(AppState& state, Host& host, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
 
     auto* top = new QHBoxLayout;
-    top->addWidget(new QLabel("Number of functions:", this));
+    auto* lblMaps = new QLabel("Number of functions:", this);
+    lblMaps->setObjectName("lblMaps");
+    top->addWidget(lblMaps);
     txtMaps_ = numberBox(this, "txtMaps", 4);
     watch(txtMaps_, {BoxKind::Maps, 0, 0});
     top->addWidget(txtMaps_);
@@ -59,6 +61,9 @@ FunctionsWindow::FunctionsWindow(AppState& state, Host& host, QWidget* parent)
     lblComment_->setCursor(Qt::PointingHandCursor);
     lblComment_->installEventFilter(this);
     top->addWidget(lblComment_, 1);
+    // Without comments (a chaos game has none) the spare width goes here, not to the label, so the
+    // box stays beside its label.
+    top->addStretch(0);
     layout->addLayout(top);
 
     pages_ = new QStackedWidget;

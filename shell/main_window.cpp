@@ -5,10 +5,14 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QMenu>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 
 #include "core/menu_tree.h"
+#include "core/window_positions.h"
 #include "render/scale.h"
 #include "app/design_view.h"
 #include "shell/code_commands.h"
@@ -27,7 +31,6 @@ namespace {
 
 constexpr int WindowItems = 22;  // mnuWin(0) to (21)
 constexpr int StatusPanels = 2;
-constexpr int TwipsPerInch = 1440;
 
 // The array name of an item key: "mnuWin(1)" gives "mnuWin" and 1.
 bool splitKey(const std::string& key, std::string& name, int& index) {
@@ -87,7 +90,6 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
         // A view change during a run rewrites the table's window boxes too, so both windows follow.
         ownHost_->onYield = [this] { refreshWindows(); };
     }
-    resize(1040, 760);
     qApp->installEventFilter(this);
 }
 
@@ -158,16 +160,27 @@ void MainWindow::buildChildren() {
     connect(mdi_, &QMdiArea::subWindowActivated, this, &MainWindow::childActivated);
 }
 
-// The default sizes of the settings, in 1/1440 inch. The fractal window stands beside the table
-// rather than over its right part, where our table keeps the coefficients.
+// The first start's places of the three windows, and a frame that holds them all, as far as the
+// screen allows. A later start will take the places the settings file kept.
 void MainWindow::placeChildren() {
-    const double scale = logicalDpiX() / static_cast<double>(TwipsPerInch);
-    auto px = [scale](int twips) { return static_cast<int>(twips * scale + 0.5); };
-    const int functionWidth = 10010, functionHeight = 7500, fractalWidth = 5200, fractalHeight = 6000;
-    const int designWidth = 5200, designHeight = 6000;
-    children_[0]->setGeometry(0, 0, px(functionWidth), px(functionHeight));
-    children_[1]->setGeometry(px(functionWidth), 0, px(fractalWidth), px(fractalHeight));
-    children_[2]->setGeometry(px(functionWidth), px(fractalHeight), px(designWidth), px(designHeight));
+    const double dpi = logicalDpiX();
+    const WindowPositions p = SetDefaultWindowPositions(PixelsToTwips(width(), dpi));
+    auto place = [dpi](QMdiSubWindow* child, const WindowPlace& w) {
+        child->setGeometry(TwipsToPixels(w.left, dpi), TwipsToPixels(w.top, dpi), TwipsToPixels(w.width, dpi),
+                           TwipsToPixels(w.height, dpi));
+    };
+    place(children_[0], p.functions);
+    place(children_[1], p.fractal);
+    place(children_[2], p.design);
+    const WindowPlace extent = MainWindowsExtent(p);
+    const QSize needed(TwipsToPixels(extent.width, dpi), TwipsToPixels(extent.height, dpi));
+    // The frame's own bars around the child area, and the area's border.
+    const int border = 2 * mdi_->frameWidth() + 4;
+    const QSize chrome(border, menuBar()->sizeHint().height() + toolbar_->sizeHint().height() +
+                                   statusBar()->sizeHint().height() + border);
+    QSize frame = needed + chrome;
+    if (const QScreen* s = screen()) frame = frame.boundedTo(s->availableGeometry().size());
+    resize(frame);
 }
 
 void MainWindow::registerFrameCommands() {

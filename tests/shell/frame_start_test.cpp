@@ -1,6 +1,8 @@
+#include <QApplication>
 #include <QCoreApplication>
 #include <QMdiSubWindow>
 
+#include "core/window_positions.h"
 #include "shell/fractal_window.h"
 #include "shell/functions_window.h"
 #include "tests/shell/frame_fixture.h"
@@ -160,6 +162,23 @@ TEST_F(FrameTest, AClosedChildIsOnlyHiddenAndTheWindowMenuBringsItBack) {
     EXPECT_TRUE(table->isVisible());
     EXPECT_TRUE(frame->functionsWindow()->isVisible());
     EXPECT_EQ(frame->mdiArea()->activeSubWindow(), table);
+}
+
+TEST_F(FrameTest, TheFirstStartShowsTheThreeWindowsWholeInsideTheFrame) {
+    open();
+    QApplication::processEvents();
+    const double dpi = frame->logicalDpiX();
+    const WindowPositions p = SetDefaultWindowPositions(0);
+    const QRect table = frame->childWindow(0)->geometry();
+    EXPECT_EQ(table.topLeft(), QPoint(0, 0));
+    EXPECT_EQ(table.width(), TwipsToPixels(p.functions.width, dpi));
+    EXPECT_EQ(table.height(), TwipsToPixels(p.functions.height, dpi));
+    const QRect design = frame->childWindow(2)->geometry();
+    EXPECT_EQ(design.topLeft(), QPoint(TwipsToPixels(p.design.left, dpi), TwipsToPixels(p.design.top, dpi)));
+    EXPECT_EQ(frame->childWindow(1)->geometry().topLeft(), QPoint(TwipsToPixels(p.fractal.left, dpi), 0));
+    const QRect area = frame->mdiArea()->viewport()->rect();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(area.contains(frame->childWindow(i)->geometry())) << "child " << i;
 }
 
 TEST(Frame, TheProgramItselfTalksThroughQtAndStartsInItsOwnFolder) {

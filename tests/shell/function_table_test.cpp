@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMdiSubWindow>
 #include <QTest>
 
 #include "shell/functions_window.h"
@@ -125,6 +126,25 @@ TEST_F(TableTest, EachFormRewritesTheTable) {
     EXPECT_TRUE(item("mnuCodeFP")->isEnabled());
     EXPECT_EQ(wb().CodeForm, 2);
     EXPECT_TRUE(box(8, 0)->isVisibleTo(&table()));
+}
+
+TEST_F(TableTest, TheCountBoxStaysBesideItsLabelWithOrWithoutComments) {
+    auto gap = [this] {
+        QApplication::processEvents();
+        const QLabel* label = nullptr;
+        for (const QLabel* l : table().findChildren<QLabel*>())
+            if (l->text() == "Number of functions:") label = l;
+        const QWidget* maps = table().findChild<QWidget*>("txtMaps");
+        if (!label || !maps) return 10000;
+        // From the end of the label's text, however wide the label itself is laid out.
+        return maps->geometry().left() - (label->geometry().left() + label->sizeHint().width());
+    };
+    frame->childWindow(0)->resize(900, 500);
+    EXPECT_LT(gap(), 20);
+    // A new chaos game has no comments: the comment label is hidden.
+    frame->runCommand("mnuNewChaosGame");
+    ASSERT_FALSE(table().findChild<QWidget*>("lblComment")->isVisible());
+    EXPECT_LT(gap(), 20);
 }
 
 TEST_F(TableTest, AWholeSessionKeepsTheNumbers) {
