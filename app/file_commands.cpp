@@ -1,5 +1,10 @@
 #include "app/file_commands.h"
 
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+#include "app/chaos_design.h"
 #include "app/design_mode.h"
 #include "core/fractal_list.h"
 #include "core/function_table.h"
@@ -7,6 +12,7 @@
 #include "app/ifs_file_reader.h"
 #include "core/ifs_file_writer.h"
 #include "core/menu_tree.h"
+#include "core/recent_files.h"
 #include "app/startup.h"
 #include "core/workbench.h"
 
@@ -27,9 +33,15 @@ bool saveTestPassed(const Workbench& wb, Host& host) {
     return !NeedsSave(wb) || CheckSave(wb, host);
 }
 
+// A list written under its name is a recent file too.
 bool listSaved(Workbench& wb, bool written) {
-    if (written) wb.ListModified = false;
-    return written;
+    if (!written) return false;
+    wb.ListModified = false;
+    if (!wb.IFSFileName.empty()) {
+        AddRecentFile(wb, wb.IFSFileName);
+        wb.SettingsChanged = true;
+    }
+    return true;
 }
 
 }  // namespace
@@ -75,6 +87,37 @@ void CheckCodeFormMenu(Workbench& wb) {
     if (wb.CodeForm == 1) form = "mnuRotation";
     if (wb.CodeForm == 2) form = "mnuCodeFP";
     for (const std::string& key : RadioGroupKeys("mnuMatrix")) wb.Menu.setChecked(key, key == form);
+}
+
+RecentOpen mnuMRU_Click(Workbench& wb, Host& host, int index) {
+    if (index < 0 || index >= std::min(wb.RecentFileCount, RecentFileSlots)) return RecentOpen::Nothing;
+    const std::string path = wb.RecentFiles[index];
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(path, ec)) {
+        const Answer a = host.message(MessageIcon::Question, RecentNotFoundTitle,
+                                      "    " + path + "\n\n" + RecentNotFoundQuestion, MessageButtons::YesNo);
+        if (a != Answer::Yes) return RecentOpen::Kept;
+        RemoveRecentFile(wb, index);
+        wb.SettingsChanged = true;
+        return RecentOpen::Removed;
+    }
+    if (!saveTestPassed(wb, host)) return RecentOpen::Nothing;
+    wb.IFSModified = false;
+    std::string tail = path.size() >= 3 ? path.substr(path.size() - 3) : path;
+    for (char& ch : tail) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+    // The questions were asked above: the mode change must not ask again.
+    SilentHost quiet;
+    if (tail == "chg") {
+        if (!chaosMode(wb)) mnuNewChaosGame_Click(wb, quiet);
+        return OpenChaosFile(wb, host, 0, path) ? RecentOpen::Opened : RecentOpen::Nothing;
+    }
+    if (chaosMode(wb)) NewIFS(wb, quiet);
+    return OpenIFSFile(wb, host, 0, path) ? RecentOpen::Opened : RecentOpen::Nothing;
+}
+
+void mnuFileClearMRU_Click(Workbench& wb) {
+    ClearRecentFiles(wb);
+    wb.SettingsChanged = true;
 }
 
 bool NewIFS(Workbench& wb, Host& host) {

@@ -28,6 +28,18 @@ bool mnuSaveIFSas_Click(Workbench& wb, Host& host);
 // IFSModified is false and ChangeCount 0.
 bool mnuSaveCurrent_Click(Workbench& wb, Host& host);
 
+inline constexpr const char* RecentNotFoundTitle = "File Not Found";
+inline constexpr const char* RecentNotFoundQuestion = "This file cannot be found. Remove from list?   ";
+enum class RecentOpen { Nothing, Removed, Kept, Opened };
+// mnuMRU(index): an empty slot does nothing. A file that is gone is offered for removal (Yes takes
+// the slot out). Otherwise the save test and CheckSave (Cancel ends), then the list is read in the
+// mode its extension names, leaving or entering chaos game mode first. Opened means a new
+// CurrentIFS that the view must follow (ShowTakenIFS); the status bar's first panel is cleared
+// after Removed and Kept.
+RecentOpen mnuMRU_Click(Workbench& wb, Host& host, int index);
+// mnuFileClearMRU: every slot emptied and its item hidden; the settings are due to be written.
+void mnuFileClearMRU_Click(Workbench& wb);
+
 // The model part of mnuNewIFS: the save test and CheckSave (false for Cancel); the fixed point form
 // gives way to the matrix form in use; IFS mode with every entry enabled; CurrentIFS the one-function
 // "Untitled"; no entry selected; the table's texts rewritten.

@@ -125,8 +125,9 @@ StartFlags StartProgram(Workbench& wb, Host& host, const std::string& commandLin
     StartFlags flags;
     wb.DetFigure = -1;
     wb.SettingsChanged = false;
-    readSettings(wb, flags, hooks.settings);
+    // The menus take their first state before the settings set the tool tips and recent files.
     InitializeMenuState(wb.Menu);
+    readSettings(wb, flags, hooks.settings);
     openStartList(wb, flags, commandLine, programDir);
     if (!flags.FileOpened.ListLoaded) takeDefaultIFS(wb);
     checkCodeForm(wb);
@@ -145,6 +146,7 @@ bool Finish(Workbench& wb, StartFlags& flags, const SettingsHooks& hooks) {
     if (flags.Finished) return false;
     flags.Finished = true;
     wb.DrawingActive = false;
+    if (hooks.TakeLiveSettings) hooks.TakeLiveSettings(wb);
     const bool write = wb.SettingsChanged || flags.SettingsInvalid;
     if (write && hooks.WriteSettings) hooks.WriteSettings(wb);
     return write;

@@ -32,11 +32,14 @@ struct StartFlags {
     bool SettingsInvalid = false;  // it could not be used, or there was none
 };
 
-// Until the settings file is built, its reader and writer are these hooks. Left empty, the start
-// behaves as if there were no settings file: defaults, no message, and a write at the end.
+// Where the settings file is read and written, and how the windows' live places are taken, is
+// the shell's to say. Left empty, the start behaves as if there were no settings file: defaults,
+// no message, and a write at the end.
 struct SettingsHooks {
     std::function<void(Workbench&, StartFlags&)> ReadSettings;
     std::function<void(const Workbench&)> WriteSettings;
+    // Before Finish decides: the windows as they stand now (TakeLiveWindows).
+    std::function<void(Workbench&)> TakeLiveSettings;
 };
 
 // What the start needs from the layers above the model.

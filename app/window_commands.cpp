@@ -16,6 +16,15 @@ void mnuOpen_Click(AppState& s, Host& host) {
     DesignScale(s.wb, s.design);
 }
 
+RecentOpen mnuMRU_Click(AppState& s, Host& host, int index) {
+    const RecentOpen r = mnuMRU_Click(s.wb, host, index);
+    if (r == RecentOpen::Opened) {
+        ShowTakenIFS(s.wb, s.pics, host);
+        DesignScale(s.wb, s.design);
+    }
+    return r;
+}
+
 void mnuNames_Click(AppState& s, Host& host, const ListDialogs& dialogs, int index) {
     if (index >= 5) {
         if (mnuNamesEntry_Click(s.wb, s.pics, host, index)) DesignScale(s.wb, s.design);

@@ -2,6 +2,7 @@
 // Commands whose effect reaches more than one window: they run over AppState, so that the fractal
 // picture and the design follow the working IFS in one place, not in each window's binding.
 #include "app/app_state.h"
+#include "app/file_commands.h"
 #include "app/list_commands.h"
 #include "app/undo.h"
 #include "core/host.h"
@@ -10,6 +11,8 @@ namespace quillane {
 
 // mnuOpen: a new list read shows its entry 1 in the fractal window, and the design fits it.
 void mnuOpen_Click(AppState& s, Host& host);
+// mnuMRU(index), and the view following a list it opened.
+RecentOpen mnuMRU_Click(AppState& s, Host& host, int index);
 // mnuNames(index): a list entry (5 and up) is taken and the design fits it; 0 to 3 edit the list.
 void mnuNames_Click(AppState& s, Host& host, const ListDialogs& dialogs, int index);
 // mnuNewChaosGame, with the design redrawn for the new game.

@@ -1,5 +1,7 @@
 #include "core/recent_files.h"
 
+#include <algorithm>
+
 #include "core/menu_state.h"
 #include "core/numbers.h"
 #include "core/workbench.h"
@@ -48,6 +50,26 @@ void AddRecentFile(Workbench& wb, const std::string& path) {
     wb.RecentFiles[0] = path;
     wb.RecentFileCount = used;
     for (int i = 0; i <= last; ++i) showSlot(wb, i);
+}
+
+void RemoveRecentFile(Workbench& wb, int index) {
+    const int used = std::min(std::max(wb.RecentFileCount, 0), RecentFileSlots);
+    if (index < 0 || index >= used) return;
+    for (int i = index; i < used - 1; ++i) {
+        wb.RecentFiles[i] = wb.RecentFiles[i + 1];
+        showSlot(wb, i);
+    }
+    wb.RecentFiles[used - 1].clear();
+    wb.Menu.setVisible(MRUKey(used - 1), false);
+    wb.RecentFileCount = used - 1;
+}
+
+void ClearRecentFiles(Workbench& wb) {
+    for (int i = 0; i < RecentFileSlots; ++i) {
+        wb.RecentFiles[i].clear();
+        wb.Menu.setVisible(MRUKey(i), false);
+    }
+    wb.RecentFileCount = 0;
 }
 
 }  // namespace quillane

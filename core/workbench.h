@@ -12,6 +12,7 @@
 #include "core/menu_state.h"
 #include "core/random.h"
 #include "core/table_text.h"
+#include "core/window_positions.h"
 
 namespace quillane {
 
@@ -110,6 +111,10 @@ class Workbench {
     std::array<std::string, RecentFileSlots> RecentFiles;
     int RecentFileCount = 0;
     bool SettingsChanged = false;
+    // Window places and switches the settings file keeps, as last read or written.
+    WindowPositions Windows = SetDefaultWindowPositions(0);
+    std::array<bool, 3> MainWindowHidden{};  // function table, fractal, design
+    bool ColorStealingTraceFolded = false;  // its window then stands 2130 narrower than it is kept
 
     // Number of mnuNames items loaded: 4 for an empty list, 5 + n for n entries.
     int NamesItemCount = 4;

@@ -58,6 +58,11 @@ void RegisterListAndFileCommands(MainWindow& frame) {
     frame.setCommand("mnuSaveIFS", [&s, &host] { mnuSaveIFS_Click(s.wb, host); });
     frame.setCommand("mnuSaveIFSas", [&s, &host] { mnuSaveIFSas_Click(s.wb, host); });
     frame.setCommand("mnuSaveCurrent", [&s, &host] { mnuSaveCurrent_Click(s.wb, host); });
+    frame.setArrayCommand("mnuMRU", [&frame, &s, &host](int index) {
+        const RecentOpen r = mnuMRU_Click(s, host, index);
+        if (r == RecentOpen::Removed || r == RecentOpen::Kept) frame.setStatusText(0, {});
+    });
+    frame.setCommand("mnuFileClearMRU", [&s] { mnuFileClearMRU_Click(s.wb); });
 }
 
 }  // namespace quillane

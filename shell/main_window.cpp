@@ -12,10 +12,12 @@
 #include <QStatusBar>
 
 #include "core/menu_tree.h"
+#include "core/settings_file.h"
 #include "core/window_positions.h"
 #include "render/scale.h"
 #include "app/design_view.h"
 #include "shell/code_commands.h"
+#include "shell/settings_location.h"
 #include "shell/chaos_commands.h"
 #include "shell/chaos_design_area.h"
 #include "shell/design_commands.h"
@@ -50,6 +52,7 @@ FrameStart FrameStart::fromApplication() {
     start.commandLine = arguments.join(' ').toStdString();
     start.programDir = QCoreApplication::applicationDirPath().toStdString();
     start.localeText = QLocale().toString(1.2).toStdString();
+    start.settingsPath = SettingsFilePath(QCoreApplication::applicationDirPath());
     return start;
 }
 
@@ -90,6 +93,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
         // A view change during a run rewrites the table's window boxes too, so both windows follow.
         ownHost_->onYield = [this] { refreshWindows(); };
     }
+    connectSettings();
     qApp->installEventFilter(this);
 }
 
@@ -160,11 +164,11 @@ void MainWindow::buildChildren() {
     connect(mdi_, &QMdiArea::subWindowActivated, this, &MainWindow::childActivated);
 }
 
-// The first start's places of the three windows, and a frame that holds them all, as far as the
-// screen allows. A later start will take the places the settings file kept.
+// The three windows where the settings (or the first start) put them, and a frame that holds them
+// all, as far as the screen allows.
 void MainWindow::placeChildren() {
     const double dpi = logicalDpiX();
-    const WindowPositions p = SetDefaultWindowPositions(PixelsToTwips(width(), dpi));
+    const WindowPositions& p = state_.wb.Windows;
     auto place = [dpi](QMdiSubWindow* child, const WindowPlace& w) {
         child->setGeometry(TwipsToPixels(w.left, dpi), TwipsToPixels(w.top, dpi), TwipsToPixels(w.width, dpi),
                            TwipsToPixels(w.height, dpi));
@@ -181,6 +185,36 @@ void MainWindow::placeChildren() {
     QSize frame = needed + chrome;
     if (const QScreen* s = screen()) frame = frame.boundedTo(s->availableGeometry().size());
     resize(frame);
+}
+
+// The largest child area the screen allows, in twips: a window kept beyond it comes back.
+WindowPlace MainWindow::screenTwips() const {
+    const double dpi = logicalDpiX();
+    const QSize size = screen() ? screen()->availableGeometry().size() : QSize(1024, 768);
+    return {0, 0, PixelsToTwips(size.width(), dpi), PixelsToTwips(size.height(), dpi)};
+}
+
+void MainWindow::connectSettings() {
+    if (start_.settingsPath.empty()) return;
+    const std::string path = start_.settingsPath;
+    settingsHooks_.ReadSettings = [this, path](Workbench& wb, StartFlags& flags) {
+        const SettingsReadResult r = ReadSettingsFile(path, wb, screenTwips());
+        flags.SettingsRead = r.SettingsRead;
+        flags.SettingsInvalid = r.SettingsInvalid;
+        placeChildren();
+    };
+    settingsHooks_.TakeLiveSettings = [this](Workbench& wb) {
+        const double dpi = logicalDpiX();
+        auto twips = [dpi](const QMdiSubWindow* child) {
+            const QRect g = child->isMaximized() || child->isMinimized() ? child->normalGeometry() : child->geometry();
+            return WindowPlace{PixelsToTwips(g.left(), dpi), PixelsToTwips(g.top(), dpi),
+                               PixelsToTwips(g.width(), dpi), PixelsToTwips(g.height(), dpi)};
+        };
+        std::array<bool, 3> hidden{};
+        for (size_t i = 0; i < hidden.size(); ++i) hidden[i] = !children_[i]->isVisible();
+        TakeLiveWindows(wb, twips(children_[0]), twips(children_[1]), twips(children_[2]), hidden);
+    };
+    settingsHooks_.WriteSettings = [path](const Workbench& wb) { WriteSettingsFile(path, wb); };
 }
 
 void MainWindow::registerFrameCommands() {
@@ -206,7 +240,7 @@ void MainWindow::start() {
         DesignScale(state_.wb, state_.design);
     };
     hooks.showWindows = [this] {
-        for (QMdiSubWindow* child : children_) child->show();
+        for (size_t i = 0; i < children_.size(); ++i) children_[i]->setVisible(!state_.wb.MainWindowHidden[i]);
         refreshWindows();
         host_.yield();
     };

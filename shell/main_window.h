@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "app/startup.h"
+#include "core/window_positions.h"
 #include "app/app_state.h"
 #include "shell/frame_menus.h"
 #include "shell/frame_toolbar.h"
@@ -30,6 +31,7 @@ struct FrameStart {
     std::string commandLine;  // all arguments after the program name, joined by blanks
     std::string programDir;   // where the default lists stand and the file dialogs start
     std::string localeText;   // 1.2 as the locale writes it
+    std::string settingsPath;  // the settings file; empty runs on defaults and writes none
     static FrameStart fromApplication();
 };
 
@@ -89,6 +91,8 @@ class MainWindow : public QMainWindow {
     MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart start, QWidget* parent);
     void buildChildren();
     void placeChildren();
+    void connectSettings();
+    WindowPlace screenTwips() const;
     void buildStatusBar();
     void registerFrameCommands();
     void menuChanged(const std::string& key);
@@ -104,7 +108,7 @@ class MainWindow : public QMainWindow {
     AppState state_;
     ShellDialogs dialogs_;
     StartFlags flags_;
-    // The settings file's reader and writer plug in here; until then the start runs on defaults.
+    // The settings file's reader and writer, when the frame has a settings file.
     SettingsHooks settingsHooks_;
     std::map<std::string, Command> commands_;
     struct IndexedCommand {

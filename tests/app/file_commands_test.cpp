@@ -5,6 +5,7 @@
 #include "app/design_mode.h"
 #include "app/ifs_file_reader.h"
 #include "core/menu_tree.h"
+#include "core/recent_files.h"
 #include "tests/core/list_file_fixture.h"
 
 namespace quillane {
@@ -145,6 +146,85 @@ TEST_F(FileCommands, CancelInTheOpenDialogChangesNothing) {
     host.fileNames = {std::nullopt};
     EXPECT_FALSE(mnuOpen_Click(wb, host));
     EXPECT_EQ(listNames(wb), Names{"Old"});
+}
+
+TEST_F(FileCommands, ARecentFileInSlotThreeOpensAndGoesOnTop) {
+    std::vector<std::string> paths;
+    for (const char* name : {"d.ifs", "c.ifs", "b.ifs", "a.ifs"}) {
+        paths.push_back(dir.write(name, TwoBlocks));
+        AddRecentFile(wb, paths.back());
+    }
+    // a, b, c, d from slot 0: d is in slot 3.
+    EXPECT_EQ(mnuMRU_Click(wb, host, 3), RecentOpen::Opened);
+    EXPECT_EQ(host.shown(), Messages{});
+    EXPECT_EQ(wb.RecentFiles[0], paths[0]);
+    EXPECT_EQ(wb.RecentFiles[1], paths[3]);
+    EXPECT_EQ(wb.RecentFiles[2], paths[2]);
+    EXPECT_EQ(wb.RecentFiles[3], paths[1]);
+    EXPECT_EQ(wb.RecentFileCount, 4);
+    EXPECT_EQ(wb.IFSFileName, paths[0]);
+    EXPECT_EQ(wb.CurrentIFS.Name, "Fern");
+}
+
+TEST_F(FileCommands, AnEmptyRecentSlotDoesNothing) {
+    AddRecentFile(wb, dir.write("a.ifs", TwoBlocks));
+    EXPECT_EQ(mnuMRU_Click(wb, host, 1), RecentOpen::Nothing);
+    EXPECT_EQ(host.shown(), Messages{});
+    EXPECT_TRUE(wb.IFSFileName.empty());
+}
+
+TEST_F(FileCommands, AGoneRecentFileKeptOnNo) {
+    AddRecentFile(wb, dir.path("gone.ifs"));
+    host.answers = {Answer::No};
+    EXPECT_EQ(mnuMRU_Click(wb, host, 0), RecentOpen::Kept);
+    ASSERT_EQ(host.shown().size(), 1u);
+    EXPECT_EQ(host.shown()[0].title, "File Not Found");
+    EXPECT_EQ(wb.RecentFileCount, 1);
+}
+
+TEST_F(FileCommands, ARecentFileAsksBeforeReplacingAnEditedIFSAndCancelKeepsIt) {
+    AddRecentFile(wb, dir.write("a.ifs", TwoBlocks));
+    CountEdit(wb);
+    host.answers = {Answer::Cancel};
+    EXPECT_EQ(mnuMRU_Click(wb, host, 0), RecentOpen::Nothing);
+    ASSERT_EQ(host.shown().size(), 1u);
+    EXPECT_TRUE(wb.IFSModified);
+    EXPECT_TRUE(wb.IFSFileName.empty());
+}
+
+TEST_F(FileCommands, ARecentChaosGameFileEntersChaosGameModeAndBackAgain) {
+    const std::string chg = dir.write("spiral.chg", OneChaosBlock);
+    const std::string ifs = dir.write("two.ifs", TwoBlocks);
+    AddRecentFile(wb, ifs);
+    AddRecentFile(wb, chg);
+    EXPECT_EQ(mnuMRU_Click(wb, host, 0), RecentOpen::Opened);
+    EXPECT_EQ(wb.DesignMode, 1);
+    EXPECT_EQ(wb.CurrentIFS.Name, "Spiral");
+    EXPECT_EQ(mnuMRU_Click(wb, host, 1), RecentOpen::Opened);
+    EXPECT_EQ(wb.DesignMode, 0);
+    EXPECT_EQ(wb.CurrentIFS.Name, "Fern");
+    EXPECT_EQ(host.shown(), Messages{});
+}
+
+TEST_F(FileCommands, SavingAListUnderANameMakesItARecentFile) {
+    host.fileNames = {dir.write("two.ifs", TwoBlocks)};
+    ASSERT_TRUE(mnuOpen_Click(wb, host));
+    const std::string saved = dir.path("saved.ifs");
+    host.fileNames = {saved};
+    ASSERT_TRUE(mnuSaveIFSas_Click(wb, host));
+    EXPECT_EQ(wb.RecentFiles[0], saved);
+    EXPECT_TRUE(wb.SettingsChanged);
+}
+
+TEST_F(FileCommands, ClearingTheRecentFilesHidesEveryItem) {
+    AddRecentFile(wb, "/x/a.ifs");
+    AddRecentFile(wb, "/x/b.ifs");
+    wb.SettingsChanged = false;
+    mnuFileClearMRU_Click(wb);
+    EXPECT_EQ(wb.RecentFileCount, 0);
+    EXPECT_FALSE(wb.menu("mnuMRU(0)").visible);
+    EXPECT_FALSE(wb.menu("mnuMRU(1)").visible);
+    EXPECT_TRUE(wb.SettingsChanged);
 }
 
 TEST_F(FileCommands, AppendToAFullListIsRefused) {

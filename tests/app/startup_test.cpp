@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "core/numbers.h"
+#include "core/recent_files.h"
+#include "core/settings_file.h"
 #include "tests/core/list_file_fixture.h"
 
 namespace quillane {
@@ -395,6 +397,29 @@ TEST_F(Exit, ChangedSettingsAreWritten) {
     wb.SettingsChanged = true;
     EXPECT_TRUE(Finish(wb, flags, hooks));
     EXPECT_EQ(written, 1);
+}
+
+TEST_F(Exit, AWindowMovedWithoutAnyCommandIsWritten) {
+    flags.SettingsInvalid = false;
+    wb.SettingsChanged = false;
+    hooks.TakeLiveSettings = [](Workbench& w) {
+        WindowPlace moved = w.Windows.fractal;
+        moved.top += 300;
+        TakeLiveWindows(w, w.Windows.functions, moved, w.Windows.design, w.MainWindowHidden);
+    };
+    EXPECT_TRUE(Finish(wb, flags, hooks));
+    EXPECT_EQ(written, 1);
+}
+
+TEST_F(Start, TheSettingsComeAfterTheMenusFirstState) {
+    hooks.settings.ReadSettings = [](Workbench& w, StartFlags&) {
+        w.Menu.setChecked("mnuEditToolTips", false);
+        AddRecentFile(w, "/lists/one.ifs");
+    };
+    start();
+    EXPECT_FALSE(wb.menu("mnuEditToolTips").checked);
+    EXPECT_TRUE(wb.menu("mnuMRU(0)").visible);
+    EXPECT_EQ(wb.menu("mnuMRU(0)").caption, "/lists/one.ifs");
 }
 
 }  // namespace

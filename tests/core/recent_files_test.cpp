@@ -53,5 +53,17 @@ TEST(AddRecentFile, AFileInSlotThreeMovesToTheTopInAnyCase) {
     EXPECT_FALSE(wb.Menu.contains("mnuMRU(5)"));
 }
 
+TEST(RemoveRecentFile, LaterSlotsMoveUpAndTheLastItemIsHidden) {
+    Workbench wb;
+    for (const char* p : {"/a/c.ifs", "/a/b.ifs", "/a/a.ifs"}) AddRecentFile(wb, p);
+    RemoveRecentFile(wb, 1);
+    EXPECT_EQ(slots(wb), (Paths{"/a/a.ifs", "/a/c.ifs"}));
+    EXPECT_EQ(wb.menu(MRUKey(1)).caption, "/a/c.ifs");
+    EXPECT_TRUE(wb.menu(MRUKey(1)).visible);
+    EXPECT_FALSE(wb.menu(MRUKey(2)).visible);
+    RemoveRecentFile(wb, 5);  // not a used slot
+    EXPECT_EQ(wb.RecentFileCount, 2);
+}
+
 }  // namespace
 }  // namespace quillane

@@ -16,8 +16,9 @@ inline const std::string DamagedBlock = "Second {\n0.5 0 0\n}\n";
 class FrameTest : public ::testing::Test {
   protected:
     // Builds the frame, shows it and runs the start.
-    MainWindow& open(const std::string& commandLine = "", const std::string& locale = "1.2") {
-        frame = std::make_unique<MainWindow>(host, FrameStart{commandLine, dir.path(""), locale});
+    MainWindow& open(const std::string& commandLine = "", const std::string& locale = "1.2",
+                     const std::string& settings = "") {
+        frame = std::make_unique<MainWindow>(host, FrameStart{commandLine, dir.path(""), locale, settings});
         frame->show();
         frame->start();
         return *frame;
