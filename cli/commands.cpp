@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "cli/cli_host.h"
+#include "cli/list_input.h"
 #include "core/fractal_list.h"
 #include "app/ifs_file_reader.h"
 #include "core/ifs_file_writer.h"
@@ -30,12 +31,6 @@ bool endsWith(const std::string& s, const std::string& tail) {
     return s.size() >= tail.size() && s.compare(s.size() - tail.size(), tail.size(), tail) == 0;
 }
 
-// Reads a list as the Open command does: a name ending in "chg" as chaos game definitions.
-bool readList(Workbench& wb, CliHost& host, const std::string& file) {
-    const bool loaded =
-        endsWith(ToLower(file), "chg") ? OpenChaosFile(wb, host, 0, file) : OpenIFSFile(wb, host, 0, file);
-    return loaded && host.warnings == 0;
-}
 
 // The command line's initial sets, drawn in DetSingleColor into picfractal and picImage3 alike.
 void drawFigure(RasterSurface& s, const std::string& figure, Color c) {
@@ -103,7 +98,7 @@ int renderDeterministic(Workbench& wb, FractalPictures& pics, CliHost& host, con
 int RunList(const Command& cmd) {
     Workbench wb;
     CliHost host;
-    const bool ok = readList(wb, host, cmd.files[0]);
+    const bool ok = ReadList(wb, host, cmd.files[0]);
     for (int n = 1; n <= wb.ListCount(); ++n)
         std::cout << n << '\t' << Trim(wb.FractalList[n].Name) << '\t' << wb.FractalList[n].nMaps << '\n';
     return ok ? 0 : 1;
@@ -112,7 +107,7 @@ int RunList(const Command& cmd) {
 int RunSave(const Command& cmd) {
     Workbench wb;
     CliHost host;
-    if (!readList(wb, host, cmd.files[0])) return 1;
+    if (!ReadList(wb, host, cmd.files[0])) return 1;
     const std::string& out = cmd.files[1];
     bool written;
     if (endsWith(ToLower(out), ".chg")) {
@@ -132,13 +127,8 @@ int RunRender(const Command& cmd) {
     const RenderOptions& r = cmd.render;
     Workbench wb;
     CliHost host;
-    if (!readList(wb, host, r.file)) return 1;
-    if (r.entry > wb.ListCount()) {
-        std::cerr << "--entry must be from 1 to " << wb.ListCount() << ": " << r.file << " has "
-                  << wb.ListCount() << (wb.ListCount() == 1 ? " entry" : " entries") << "\n";
-        return 1;
-    }
-    if (!TakeListEntry(wb, host, r.entry)) return 1;
+    if (!ReadList(wb, host, r.file)) return 1;
+    if (!TakeEntry(wb, host, r.file, r.entry)) return 1;
     if (r.seed) wb.Rng.pin(*r.seed);
     if (r.window) {
         wb.Window = *r.window;

@@ -28,6 +28,8 @@ int main(int argc, char** argv) {
                 return RunRender(cmd);
             case Command::Bench:
                 return RunBench(cmd);
+            case Command::Print:
+                return RunPrint(cmd.print);
         }
     } catch (const std::exception& e) {
         std::cerr << "quillane-cli: " << e.what() << "\n";

@@ -36,6 +36,14 @@ const char* const UsageText =
     "      Takes a GIF, PNG, JPEG or BMP picture, fitted into the drawing and centred:\n"
     "      with --deterministic it is the initial set, drawn in its own colours; without,\n"
     "      it is the background under the random drawing.\n"
+    "  print FILE [--entry N] [--what text,fractal,design] [--text matrix,rotation,rules]\n"
+    "        [--side-by-side] [--landscape] [--inches N] [--points N] [--size PIXELS]\n"
+    "        [--seed S] -o OUT\n"
+    "      What File > Print gives for entry N (default 1) of FILE. OUT.txt takes the text\n"
+    "      sections alone; OUT.pdf a Letter page set with the fractal drawn as render\n"
+    "      draws it, the design as the design window shows it, each fitted in a square of\n"
+    "      N inches (default 3), and the text below. The text is the matrix and\n"
+    "      scale/rotation forms, and the chaos game rules of a chaos game file.\n"
     "  --bench [--points N] [--size PIXELS]\n"
     "      Measures the random drawing engine with 3 and 100 maps.\n"
     "  --help\n"
@@ -185,6 +193,12 @@ ParseResult ParseCommandLine(const std::vector<std::string>& args) {
         return {cmd, ""};
     }
     if (c == "render") return parseRender(args);
+    if (c == "print") {
+        Command cmd;
+        cmd.kind = Command::Print;
+        if (auto bad = ParsePrintOptions(args, cmd.print)) return usage(*bad);
+        return {cmd, ""};
+    }
     if (c == "--bench" || c == "bench") return parseBench(args);
     return usage("unknown command " + c);
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/print_command.h"
 #include "core/workbench.h"
 
 namespace quillane::cli {
@@ -32,10 +33,11 @@ struct BenchOptions {
 };
 
 struct Command {
-    enum Kind { Help, List, Save, Render, Bench } kind = Help;
+    enum Kind { Help, List, Save, Render, Bench, Print } kind = Help;
     std::vector<std::string> files;  // list: FILE; save: IN OUT
     RenderOptions render;
     BenchOptions bench;
+    PrintOptions print;
 };
 
 // The parsed command, or the text of a usage error.

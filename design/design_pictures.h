@@ -22,6 +22,8 @@ struct DesignPictures {
     RasterSurface picdesign;    // IFS mode: polygons, grid, axes, fixed points
     RasterSurface picCGDesign;  // chaos game mode; kept at the same scale
     RasterSurface picImage;     // off-screen copy used in polygon mode
+    // The picture the design window shows: the chaos game's in chaos game mode.
+    const RasterSurface& shownPicture(bool chaosGame) const { return chaosGame ? picCGDesign : picdesign; }
     std::string picCoord;       // status line
     std::string picTrans;       // selected number or grid size
 

@@ -94,5 +94,26 @@ check "the background shows" test -n "$(cmp "$work/u.png" "$work/b.png" 2>&1)"
 check "an unreadable picture exits 1" status 1 "$cli" render "$data/default.ifs" --deterministic --initial "$data/default.ifs" -o "$work/x.png"
 check "figure and initial picture is bad usage" status 2 "$cli" render "$data/default.ifs" --deterministic --figure line --initial "$work/d.png" -o "$work/x.png"
 
+check "print the text of an entry" status 0 "$cli" print "$data/default.ifs" --entry 1 -o "$work/p.txt"
+check "the matrix form heads the text" test "$(head -1 "$work/p.txt")" = "Matrix Form"
+check "its first row" grep -qxF -- "(1)   0.500000   0.000000   0.000000   0.500000  |  0.000000   0.000000  | 0.333000" "$work/p.txt"
+check "the scale/rotation form follows" grep -qx "Scale/Rotation Form" "$work/p.txt"
+check "no chaos game rules for an IFS file" test -z "$(grep 'Chaos Game Rules' "$work/p.txt")"
+check "a chaos game file prints its rules" status 0 "$cli" print "$data/default.chg" --text rules -o "$work/r.txt"
+check "the rules in words" grep -qx "scale by 0.5      fixed point:  (1, 0)" "$work/r.txt"
+check "pictures in a text file is bad usage" status 2 "$cli" print "$data/default.ifs" --what fractal -o "$work/x.txt"
+check "an unknown part is bad usage" status 2 "$cli" print "$data/default.ifs" --text poems -o "$work/x.txt"
+check "an unknown output type is bad usage" status 2 "$cli" print "$data/default.ifs" -o "$work/x.doc"
+check "print entry beyond the list exits 1" status 1 "$cli" print "$data/default.ifs" --entry 99 -o "$work/x.txt"
+check "a PDF with pictures and text" status 0 "$cli" print "$data/default.ifs" --points 20000 --size 200 --seed 3 -o "$work/p.pdf"
+check "it is a PDF" test "$(head -c 5 "$work/p.pdf")" = "%PDF-"
+if command -v pdfinfo >/dev/null 2>&1; then
+  check "the PDF reader reads one Letter page" sh -c "pdfinfo '$work/p.pdf' | grep -q 'Pages: *1' && pdfinfo '$work/p.pdf' | grep -q '612 x 792'"
+  check "side by side lying across" status 0 "$cli" print "$data/default.ifs" --side-by-side --landscape --inches 4 --points 2000 --size 100 -o "$work/l.pdf"
+  check "the landscape page" sh -c "pdfinfo '$work/l.pdf' | grep -q '792 x 612'"
+fi
+check "side by side too wide for the paper exits 1" status 1 "$cli" print "$data/default.ifs" --side-by-side --inches 4 --points 2000 --size 100 -o "$work/w.pdf"
+check "the paper-width warning" grep -q "The paper is not wide enough for" "$work/err"
+
 echo "$failures failure(s)"
 [ "$failures" -eq 0 ]
