@@ -7,24 +7,24 @@
 #include <iostream>
 #include <sstream>
 
+#include "app/background_commands.h"
+#include "app/deterministic_commands.h"
+#include "app/figure_commands.h"
+#include "app/ifs_file_reader.h"
 #include "cli/cli_host.h"
 #include "core/fractal_list.h"
-#include "app/ifs_file_reader.h"
 #include "core/ifs_file_writer.h"
 #include "core/numbers.h"
 #include "core/palette_files.h"
 #include "render/color_stealing.h"
 #include "render/deterministic.h"
-#include "render/floating_picture.h"
-#include "render/picture_figures.h"
 #include "render/engine_workload.h"
+#include "render/floating_picture.h"
 #include "render/fractal_pictures.h"
 #include "render/image_file.h"
+#include "render/picture_figures.h"
 #include "render/play_game.h"
 #include "render/scale.h"
-#include "app/deterministic_commands.h"
-#include "app/figure_commands.h"
-#include "app/background_commands.h"
 
 namespace quillane::cli {
 
@@ -116,8 +116,9 @@ bool readColorFiles(Workbench& wb, const RenderOptions& r) {
     if (!r.palette.empty()) {
         const std::optional<std::string> text = readText(r.palette);
         const bool map = endsWith(ToLower(r.palette), ".map");
-        const std::optional<FunctionColors> colors =
-            !text ? std::nullopt : map ? ReadMapPalette(*text) : ReadIfpPalette(*text);
+        const std::optional<FunctionColors> colors = !text ? std::nullopt
+                                                     : map ? ReadMapPalette(*text)
+                                                           : ReadIfpPalette(*text);
         if (!colors) {
             std::cerr << "Not a valid IFS palette file: " << r.palette << "\n";
             return false;
@@ -143,7 +144,8 @@ bool setUpStealing(Workbench& wb, FractalPictures& pics, const RenderOptions& r)
         CliHost listHost;
         if (!readList(list, listHost, r.stealIfs)) return false;
         if (r.stealEntry > list.ListCount()) {
-            std::cerr << "--steal-ifs entry must be from 1 to " << list.ListCount() << ": " << r.stealIfs << "\n";
+            std::cerr << "--steal-ifs entry must be from 1 to " << list.ListCount() << ": " << r.stealIfs
+                      << "\n";
             return false;
         }
         cs.ColoringIFS = list.FractalList[static_cast<size_t>(r.stealEntry)];
@@ -267,9 +269,10 @@ int RunBench(const Command& cmd) {
         const double seconds =
             std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
         const long long plotted = wb.PointCount - WarmUpIterations;
-        std::printf("random engine, %s colours, %3d maps, %dx%d: %lld points in %.3f s (%.1f million points/s)\n",
-                    ColorModeNames[cmd.bench.colorMode], maps,
-                    cmd.bench.size, cmd.bench.size, plotted, seconds, plotted / seconds / 1e6);
+        std::printf(
+            "random engine, %s colours, %3d maps, %dx%d: %lld points in %.3f s (%.1f million points/s)\n",
+            ColorModeNames[cmd.bench.colorMode], maps, cmd.bench.size, cmd.bench.size, plotted, seconds,
+            plotted / seconds / 1e6);
     }
     return 0;
 }

@@ -52,7 +52,7 @@ const char* const UsageText =
     "Exit status: 0 success, 1 error, 2 bad usage.\n";
 
 const char* const ColorModeNames[8] = {"ifs",          "height", "width",  "radial",
-                                         "fixed-points", "random", "visits", "steal"};
+                                       "fixed-points", "random", "visits", "steal"};
 
 int ColorModeByName(const std::string& name) {
     for (int k = 0; k < 8; ++k)
@@ -73,7 +73,8 @@ std::string lowerExtension(const std::string& file) {
 std::string colorUsageError(const RenderOptions& r) {
     const int m = r.colorMode;
     if (!r.gradient.empty() && (m < 1 || m > 6))
-        return "--gradient needs a gradient mode: --colors height, width, radial, fixed-points, random or visits";
+        return "--gradient needs a gradient mode: --colors height, width, radial, fixed-points, random or "
+               "visits";
     if (!r.palette.empty() && m != 0) return "--palette sets the IFS colours and needs --colors ifs";
     if (m == 7 && r.steal.empty()) return "--colors steal needs --steal PICTURE";
     if (!r.steal.empty() && m != 7) return "--steal needs --colors steal";
@@ -166,13 +167,16 @@ ParseResult parseRender(const std::vector<std::string>& args) {
             if (!value(r.initial) || r.initial.empty()) return usage("--initial needs a picture file");
         } else if (a == "--colors") {
             if (!value(v) || ColorModeByName(v) < 0)
-                return usage("--colors needs ifs, height, width, radial, fixed-points, random, visits or steal");
+                return usage(
+                    "--colors needs ifs, height, width, radial, fixed-points, random, visits or steal");
             r.colorMode = ColorModeByName(v);
             r.colorsGiven = true;
         } else if (a == "--gradient") {
-            if (!value(r.gradient) || r.gradient.empty()) return usage("--gradient needs a gradient text file");
+            if (!value(r.gradient) || r.gradient.empty())
+                return usage("--gradient needs a gradient text file");
         } else if (a == "--palette") {
-            if (!value(r.palette) || (lowerExtension(r.palette) != ".map" && lowerExtension(r.palette) != ".ifp"))
+            if (!value(r.palette) ||
+                (lowerExtension(r.palette) != ".map" && lowerExtension(r.palette) != ".ifp"))
                 return usage("--palette needs a .map or .ifp file");
         } else if (a == "--steal") {
             if (!value(r.steal) || r.steal.empty()) return usage("--steal needs a picture file");

@@ -28,7 +28,8 @@ std::vector<UnitSquareCell> UnitSquareGrid(const float* p, int n) {
     std::vector<int> rowStart(static_cast<size_t>(rows) + 1);
     for (int k = 0; k <= rows; ++k) rowStart[static_cast<size_t>(k)] = k * n / rows;
     for (int k = 0; k < rows; ++k)
-        for (int i = rowStart[k]; i < rowStart[k + 1]; ++i) rowSums[static_cast<size_t>(k)] += std::max(0.0f, p[i]);
+        for (int i = rowStart[k]; i < rowStart[k + 1]; ++i)
+            rowSums[static_cast<size_t>(k)] += std::max(0.0f, p[i]);
     const std::vector<double> heights = shares(rowSums.data(), 0, rows);
     double y = 0;
     for (int k = 0; k < rows; ++k) {

@@ -60,7 +60,8 @@ class GradientPosition {
 class VisitCounter {
   public:
     // Allocates the table on first use. res is the picture's width, at most 1000.
-    VisitCounter(std::vector<int16_t>& table, const WorldWindow& w, int pictureWidth, const GradientColors& g);
+    VisitCounter(std::vector<int16_t>& table, const WorldWindow& w, int pictureWidth,
+                 const GradientColors& g);
     // The plain loop: a point outside the window (on a bound is inside) takes colour 0 uncounted.
     Color plainColor(float x, float y) { return inWindow(x, y) ? countAndColor(x, y) : Black; }
     // The tile loop tests no window and counts the warm-up too; a point beyond the table is ignored
@@ -71,7 +72,9 @@ class VisitCounter {
     int resolution() const { return res_; }
 
   private:
-    bool inWindow(float x, float y) const { return x >= w_.xmin && x <= w_.xmax && y >= w_.ymin && y <= w_.ymax; }
+    bool inWindow(float x, float y) const {
+        return x >= w_.xmin && x <= w_.xmax && y >= w_.ymin && y <= w_.ymax;
+    }
     Color countAndColor(float x, float y);
 
     std::vector<int16_t>& table_;

@@ -267,7 +267,8 @@ bool ScanLevel(Workbench& wb, FractalPictures& pics, Host& host, const ScanReque
         case ScanKind::SingleColor:
             return scanRows<ScanKind::SingleColor>(s, pics, host);
         case ScanKind::Gradient: {
-            const GradientColors gradient = wb.Gradient;
+            GradientColors gradient = wb.Gradient;
+            gradient.GradientColorCount = GradientCount(gradient);
             s.gradient = &gradient;
             std::optional<GradientPosition> position;
             std::array<Color, GradientStripCount> strips{};

@@ -221,10 +221,10 @@ bool colorLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const Plo
 struct RunColoring {
     int mode = IFSColorMode;
     GradientColors gradient;
-    std::optional<GradientPosition> position;             // modes 1 to 4
-    std::array<Color, GradientStripCount> strips{};       // mode 5
-    std::optional<VisitCounter> visits;                   // mode 6
-    std::optional<StealingOrbit> orbit;                   // mode 7
+    std::optional<GradientPosition> position;        // modes 1 to 4
+    std::array<Color, GradientStripCount> strips{};  // mode 5
+    std::optional<VisitCounter> visits;              // mode 6
+    std::optional<StealingOrbit> orbit;              // mode 7
 };
 
 // Colour modes 1 to 7 from the current PointCount to `stop`; the caller yields.
@@ -239,7 +239,9 @@ void coloredLoop(Workbench& wb, FractalPictures& pics, const RunMaps& m, const M
         case WidthColorMode:
         case RadialColorMode:
         case FixedPointColorMode: {
-            auto colorOf = [&rc](Random&, int, float x, float y) { return rc.position->color(rc.gradient, x, y); };
+            auto colorOf = [&rc](Random&, int, float x, float y) {
+                return rc.position->color(rc.gradient, x, y);
+            };
             ok = colorLoop(rng, m, choice, t, pics, o, stop, colorOf);
             break;
         }
@@ -274,6 +276,7 @@ void coloredLoop(Workbench& wb, FractalPictures& pics, const RunMaps& m, const M
 void prepareColoring(Workbench& wb, FractalPictures& pics, const RunMaps& maps, RunColoring& rc) {
     rc.mode = PlayGameColorMode(wb, pics);
     rc.gradient = wb.Gradient;
+    rc.gradient.GradientColorCount = GradientCount(rc.gradient);
     switch (rc.mode) {
         case HeightColorMode:
         case WidthColorMode:
@@ -357,7 +360,8 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
         wb.PlotY = wb.Window.ymin;
     }
     // A colouring IFS that does not fit stops the run before any menu changes.
-    if (PlayGameColorMode(wb, pics) == StealingColorMode && !SettleColoringIFS(wb, pics, host, maps.n)) return;
+    if (PlayGameColorMode(wb, pics) == StealingColorMode && !SettleColoringIFS(wb, pics, host, maps.n))
+        return;
     wb.Rng.Randomize();
     switchCommandsForRun(wb);
     pics.Selection.SelectionActive = false;

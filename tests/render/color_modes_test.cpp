@@ -209,7 +209,8 @@ TEST(ColorModes, VisitPixelsFollowTheCountOfTheirCell) {
                                 static_cast<long>(std::floor((p.y - static_cast<double>(-0.05f)) * sy))}];
         highest = std::max(highest, h);
         for (int k = 1; k <= 6; ++k)
-            if (h <= T[k]) return mix(grad.picColors[k - 1], grad.picColors[k], (h - T[k - 1]) / (T[k] - T[k - 1]));
+            if (h <= T[k])
+                return mix(grad.picColors[k - 1], grad.picColors[k], (h - T[k - 1]) / (T[k] - T[k - 1]));
         return grad.picColors[6];
     });
     EXPECT_GT(highest, 30);  // the last colour is reached

@@ -70,7 +70,8 @@ struct Level {
                     const float nx = m.a[i] * x + m.b[i] * y + m.e[i];
                     const float ny = m.c[i] * x + m.d[i] * y + m.f[i];
                     const Color colour = colorOf(nx, ny);
-                    const double col = std::floor((static_cast<double>(nx) - s.scaleLeft()) * s.pixelScaleX());
+                    const double col =
+                        std::floor((static_cast<double>(nx) - s.scaleLeft()) * s.pixelScaleX());
                     const double row = std::floor((static_cast<double>(ny) - s.scaleTop()) * s.pixelScaleY());
                     if (col < 0 || row < 0 || col >= Side || row >= Side) continue;
                     out[static_cast<size_t>(row) * Side + static_cast<size_t>(col)] = colour;
@@ -170,7 +171,8 @@ TEST(DeterministicColorModes, ModeSevenDrawsARandomStripForEveryImage) {
     rng.pin(5);
     const auto strips = GradientStrips(l.wb.Gradient);
     // One draw per image, whether it lands on the picture or not.
-    const auto want = l.expected(-1, [&](float, float) { return strips[static_cast<size_t>(std::floor(rng.Rnd() * 180))]; });
+    const auto want = l.expected(
+        -1, [&](float, float) { return strips[static_cast<size_t>(std::floor(rng.Rnd() * 180))]; });
     Iterate(l.wb, l.pics, l.host, -1);
     l.expectLevel(want, 20);
 }
