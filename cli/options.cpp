@@ -44,14 +44,55 @@ const char* const UsageText =
     "      draws it, the design as the design window shows it, each fitted in a square of\n"
     "      N inches (default 3), and the text below. The text is the matrix and\n"
     "      scale/rotation forms, and the chaos game rules of a chaos game file.\n"
-    "  --bench [--points N] [--size PIXELS]\n"
-    "      Measures the random drawing engine with 3 and 100 maps.\n"
+    "  render FILE ... [--colors MODE] [--gradient FILE.txt] [--palette FILE.map|FILE.ifp]\n"
+    "         [--steal PICTURE [--steal-ifs FILE:ENTRY]]\n"
+    "      MODE is ifs (the default), height, width, radial, fixed-points, random, visits\n"
+    "      or steal. The gradient modes take their colours from the gradient file (the\n"
+    "      default gradient without one); ifs takes the map colours, from the palette\n"
+    "      file when given. steal paints with the colours of PICTURE under a second orbit,\n"
+    "      of the unit-square colouring IFS or of entry ENTRY of FILE. With --deterministic\n"
+    "      visits and steal are not offered, and random draws in one colour.\n"
+    "  --bench [--points N] [--size PIXELS] [--colors MODE]\n"
+    "      Measures the random drawing engine with 3 and 100 maps, in colour mode MODE.\n"
     "  --help\n"
     "      Prints this text.\n"
     "\n"
     "Exit status: 0 success, 1 error, 2 bad usage.\n";
 
+const char* const ColorModeNames[8] = {"ifs",          "height", "width",  "radial",
+                                       "fixed-points", "random", "visits", "steal"};
+
+int ColorModeByName(const std::string& name) {
+    for (int k = 0; k < 8; ++k)
+        if (name == ColorModeNames[k]) return k;
+    return -1;
+}
+
 namespace {
+
+std::string lowerExtension(const std::string& file) {
+    const size_t dot = file.rfind('.');
+    std::string ext = dot == std::string::npos ? "" : file.substr(dot);
+    for (char& ch : ext) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+    return ext;
+}
+
+// The colour options among themselves and with the drawing they go with.
+std::string colorUsageError(const RenderOptions& r) {
+    const int m = r.colorMode;
+    if (!r.gradient.empty() && (m < 1 || m > 6))
+        return "--gradient needs a gradient mode: --colors height, width, radial, fixed-points, random or "
+               "visits";
+    if (!r.palette.empty() && m != 0) return "--palette sets the IFS colours and needs --colors ifs";
+    if (m == 7 && r.steal.empty()) return "--colors steal needs --steal PICTURE";
+    if (!r.steal.empty() && m != 7) return "--steal needs --colors steal";
+    if (!r.stealIfs.empty() && r.steal.empty()) return "--steal-ifs needs --steal PICTURE";
+    if (r.deterministic && (m == 6 || m == 7))
+        return "--colors visits and steal are not offered with --deterministic";
+    if (r.deterministic && !r.initial.empty() && (m != 0 || !r.palette.empty()))
+        return "a picture initial set keeps its own colours: no --colors or --palette with it";
+    return "";
+}
 
 bool parseInt(const std::string& text, long long lo, long long hi, long long& out) {
     if (text.empty()) return false;
@@ -132,6 +173,28 @@ ParseResult parseRender(const std::vector<std::string>& args) {
             levelsGiven = true;
         } else if (a == "--initial") {
             if (!value(r.initial) || r.initial.empty()) return usage("--initial needs a picture file");
+        } else if (a == "--colors") {
+            if (!value(v) || ColorModeByName(v) < 0)
+                return usage(
+                    "--colors needs ifs, height, width, radial, fixed-points, random, visits or steal");
+            r.colorMode = ColorModeByName(v);
+            r.colorsGiven = true;
+        } else if (a == "--gradient") {
+            if (!value(r.gradient) || r.gradient.empty())
+                return usage("--gradient needs a gradient text file");
+        } else if (a == "--palette") {
+            if (!value(r.palette) ||
+                (lowerExtension(r.palette) != ".map" && lowerExtension(r.palette) != ".ifp"))
+                return usage("--palette needs a .map or .ifp file");
+        } else if (a == "--steal") {
+            if (!value(r.steal) || r.steal.empty()) return usage("--steal needs a picture file");
+        } else if (a == "--steal-ifs") {
+            const size_t colon = value(r.stealIfs) ? r.stealIfs.rfind(':') : std::string::npos;
+            if (colon == std::string::npos || colon == 0 ||
+                !parseInt(r.stealIfs.substr(colon + 1), 1, 999999999, n))
+                return usage("--steal-ifs needs FILE:ENTRY");
+            r.stealEntry = static_cast<int>(n);
+            r.stealIfs.resize(colon);
         } else if (a == "-o") {
             if (!value(r.output)) return usage("-o needs a file name");
         } else if (!a.empty() && a[0] == '-') {
@@ -145,6 +208,7 @@ ParseResult parseRender(const std::vector<std::string>& args) {
     if (r.file.empty()) return usage("render needs a FILE");
     if (levelsGiven && !r.deterministic) return usage("--levels and --figure need --deterministic");
     if (r.figureGiven && !r.initial.empty()) return usage("--figure and --initial exclude each other");
+    if (const std::string e = colorUsageError(r); !e.empty()) return usage(e);
     if (r.output.empty()) return usage("render needs -o OUT");
     const size_t dot = r.output.rfind('.');
     std::string ext = dot == std::string::npos ? "" : r.output.substr(dot);
@@ -164,6 +228,9 @@ ParseResult parseBench(const std::vector<std::string>& args) {
             ++i;
         } else if (args[i] == "--size" && i + 1 < args.size() && parseInt(args[i + 1], 1, 20000, n)) {
             cmd.bench.size = static_cast<int>(n);
+            ++i;
+        } else if (args[i] == "--colors" && i + 1 < args.size() && ColorModeByName(args[i + 1]) >= 0) {
+            cmd.bench.colorMode = ColorModeByName(args[i + 1]);
             ++i;
         } else {
             return usage("unknown or incomplete option " + args[i]);

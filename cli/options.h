@@ -25,11 +25,25 @@ struct RenderOptions {
     // --initial: a picture file, the initial set of a deterministic drawing or the background of a
     // random one, fitted into the picture and centred.
     std::string initial;
+    // --colors: the colour mode by name, 0 to 7; and what the modes draw with.
+    int colorMode = 0;
+    bool colorsGiven = false;
+    std::string gradient;  // --gradient: a gradient text file
+    std::string palette;   // --palette: the IFS colours from a .map or .ifp file
+    std::string steal;     // --steal: the picture colour stealing takes its colours from
+    std::string stealIfs;  // --steal-ifs FILE:ENTRY: the colouring IFS, instead of the unit square
+    int stealEntry = 0;
 };
+
+// The names of --colors, colour mode 0 to 7 in order.
+extern const char* const ColorModeNames[8];
+// The mode of a name, or -1.
+int ColorModeByName(const std::string& name);
 
 struct BenchOptions {
     int points = 50000000;
     int size = 1000;
+    int colorMode = 0;
 };
 
 struct Command {

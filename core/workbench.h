@@ -8,6 +8,7 @@
 
 #include "core/colors.h"
 #include "core/design_polygon.h"
+#include "core/gradient_colors.h"
 #include "core/ifs_entry.h"
 #include "core/menu_state.h"
 #include "core/random.h"
@@ -64,6 +65,10 @@ class Workbench {
     int16_t DetFigure = 0;
     std::array<bool, 4> RecursionOff{};
     std::string FractalCaption = "Fractal (Random)";
+    // The gradient of the gradient colour modes, and the visit counts of mode 6: 1000 x 1000 16-bit
+    // counters, cell (i, j) at i + 1000 j, allocated on first use.
+    GradientColors Gradient = DefaultGradient();
+    std::vector<int16_t> HitCount;
 
     // View.
     WorldWindow Window;  // the fractal window's WorldWindow

@@ -155,6 +155,8 @@ void TakeShiftImage(const Workbench& wb, FractalPictures& pics) {
 
 
 int DeterministicColorMode(const Workbench& wb, const FractalPictures& pics) {
+    // Chosen as for the random drawing; here 7 stands for the random strips.
+    if (wb.menu(MenuTable::key("mnuColors", 2)).checked) return 7;
     if (wb.menu(MenuTable::key("mnuColors", 1)).checked) return std::clamp(pics.Det.optColoring, 1, 7);
     return 0;
 }

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <vector>
 
+#include "render/color_modes.h"
 #include "render/run_maps.h"
 
 namespace quillane {
@@ -71,6 +73,11 @@ struct Scan {
     float stepY = 0, ymax = 0;
     // The y terms b·y and d·y of the row.
     std::array<float, MaxMaps> by{}, dy{};
+    // Gradient modes: 1 to 4 by the colouring position, 7 a random strip a pixel.
+    const GradientPosition* position = nullptr;
+    const GradientColors* gradient = nullptr;
+    const std::array<Color, GradientStripCount>* strips = nullptr;
+    Random* rng = nullptr;
 };
 
 bool samePlace(const RasterSurface& s, const RasterSurface& t) {
@@ -115,6 +122,8 @@ inline bool mayPaint(const LevelMaps& m, int i, uint32_t dest, uint32_t back) {
 
 Color gradientColor(const Scan& s, float x, float y) {
     if (s.det->GradientColor) return s.det->GradientColor(s.request.gradientMode, x, y);
+    if (s.strips) return RandomStripColor(*s.strips, *s.rng);
+    if (s.position) return s.position->color(*s.gradient, x, y);
     return s.det->DetSingleColor;
 }
 
@@ -145,6 +154,10 @@ inline void carryPixel(Scan& s, int col, float y, uint32_t P) {
         const float xp = (s.ax[at] + s.by[k]) + m.e[i];
         const float yp = (s.cx[at] + s.dy[k]) + m.f[i];
         const long to = destIndex(s, xp, yp);
+        if constexpr (K == ScanKind::Gradient) {
+            // A random strip is drawn for every image, on the picture or off it.
+            if (to < 0 && s.strips && !s.det->GradientColor) s.rng->next32();
+        }
         if (to < 0) continue;
         uint32_t v;
         if constexpr (K == ScanKind::ImageColors) {
@@ -253,8 +266,22 @@ bool ScanLevel(Workbench& wb, FractalPictures& pics, Host& host, const ScanReque
             return scanRows<ScanKind::IfsColors>(s, pics, host);
         case ScanKind::SingleColor:
             return scanRows<ScanKind::SingleColor>(s, pics, host);
-        case ScanKind::Gradient:
+        case ScanKind::Gradient: {
+            GradientColors gradient = wb.Gradient;
+            gradient.GradientColorCount = GradientCount(gradient);
+            s.gradient = &gradient;
+            std::optional<GradientPosition> position;
+            std::array<Color, GradientStripCount> strips{};
+            if (request.gradientMode == StealingColorMode) {
+                strips = GradientStrips(gradient);
+                s.strips = &strips;
+                s.rng = &wb.Rng;
+            } else {
+                position.emplace(request.gradientMode, wb, wb.CurrentIFS, maps.n);
+                s.position = &*position;
+            }
             return scanRows<ScanKind::Gradient>(s, pics, host);
+        }
         case ScanKind::Overlay:
             return scanRows<ScanKind::Overlay>(s, pics, host);
     }

@@ -11,7 +11,7 @@ enum class ScanKind {
     ImageColors,  // each image takes the colour of its source pixel
     IfsColors,    // colour mode 0: the map's colour, lower map numbers on top
     SingleColor,  // modes 5 and 6: DetSingleColor
-    Gradient,     // modes 1 to 4 and 7, through DeterministicState::GradientColor
+    Gradient,     // modes 1 to 4 by the colouring position, 7 a random strip
     Overlay,      // one colour (or the source colour) per level into picImage and picMask
 };
 

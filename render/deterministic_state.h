@@ -51,8 +51,8 @@ struct DeterministicState {
     bool DigitPending = false;
     int TensDigit = 0;
 
-    // Filled in by the figures and the gradients; without them a figure is an empty picture and a
-    // gradient mode colours in DetSingleColor.
+    // Filled in by the figures; without a drawer a figure is an empty picture. A GradientColor given
+    // here takes the place of the gradient of the workbench.
     DetFigureDrawer FigureDrawer;
     DetGradientColor GradientColor;
     // The clipboard's bitmap for the clipboard figure; nothing when it holds none.

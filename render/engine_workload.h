@@ -9,4 +9,9 @@ namespace quillane {
 // picture at its window, ready for PlayGame with a pinned seed.
 void SetUpEngineWorkload(Workbench& wb, FractalPictures& pics, int maps, int side);
 
+// Puts the workload in colour mode `mode` (0 to 7) through the menus and the gradient option, with
+// the attractor bounds of the unit square; mode 7 steals from a 500 x 500 picture of colour bands
+// through the unit-square colouring IFS.
+void UseColorModeWorkload(Workbench& wb, FractalPictures& pics, int mode);
+
 }  // namespace quillane

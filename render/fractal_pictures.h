@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/workbench.h"
+#include "render/color_stealing_state.h"
 #include "render/deterministic_state.h"
 #include "render/raster_surface.h"
 
@@ -55,6 +56,7 @@ struct FractalPictures {
 
     FractalSelection Selection;
     DeterministicState Det;
+    ColorStealingState Stealing;
     // View state of the window.
     int32_t SavedPointCount = 0;  // PointCount before the last view change, for Undo Zoom
     bool LastChangeWasZoom = false;

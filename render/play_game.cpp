@@ -1,10 +1,13 @@
 #include "render/play_game.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "core/menu_tree.h"
 #include "core/numbers.h"
+#include "render/color_modes.h"
+#include "render/color_stealing.h"
 #include "render/map_choice.h"
 #include "render/run_maps.h"
 
@@ -169,6 +172,133 @@ void plainLoop(Workbench& wb, FractalPictures& pics, const RunMaps& m, const Map
     if (!ok) throw SurfaceOverflow();
 }
 
+// Plotted iterations in colour modes 1 to 7, each point in the colour `colorOf(rng, i, x, y)` gives;
+// NoColor plots nothing. Kept apart from mode 0 so that loop stays as lean as it is. Returns false
+// on a point whose pixel position does not fit an integer, as plotLoop does.
+template <class ColorOf>
+bool colorLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const PlotTarget& t,
+               FractalPictures& pics, Orbit& o, int32_t stop, ColorOf& colorOf) {
+    float x = o.x, y = o.y;
+    int32_t count = o.count;
+    bool ok = true;
+    try {
+        while (count < stop) {
+            const int i = choice.fast(rng.next32());
+            ++count;
+            const float nx = m.a[i] * x + m.b[i] * y + m.e[i];
+            const float ny = m.c[i] * x + m.d[i] * y + m.f[i];
+            const Color c = colorOf(rng, i, nx, ny);
+            if (c != NoColor) {
+                if (t.shared) {
+                    const double tx = (static_cast<double>(nx) - t.left) * t.sx;
+                    const double ty = (static_cast<double>(ny) - t.top) * t.sy;
+                    if (tx >= 0 && ty >= 0 && tx < t.width && ty < t.height) {
+                        const size_t at = static_cast<size_t>(static_cast<int>(ty)) * t.stride +
+                                          static_cast<size_t>(static_cast<int>(tx));
+                        t.shown[at] = (c & 0xFFFFFFu) | 0xFF000000u;
+                        t.shadow[at] = (c & 0xFFFFFFu) | 0xFF000000u;
+                    } else if (!(tx > -2147483649.0 && tx < 2147483648.0 && ty > -2147483649.0 &&
+                                 ty < 2147483648.0)) {
+                        ok = false;
+                        break;
+                    }
+                } else {
+                    pics.picfractal.pset(nx, ny, c);
+                    pics.picImage2.pset(nx, ny, c);
+                }
+            }
+            x = nx;
+            y = ny;
+        }
+    } catch (const SurfaceOverflow&) {
+        ok = false;
+    }
+    o = {x, y, count};
+    return ok;
+}
+
+// What a run of colour modes 1 to 7 sets up once, before its loop.
+struct RunColoring {
+    int mode = IFSColorMode;
+    GradientColors gradient;
+    std::optional<GradientPosition> position;        // modes 1 to 4
+    std::array<Color, GradientStripCount> strips{};  // mode 5
+    std::optional<VisitCounter> visits;              // mode 6
+    std::optional<StealingOrbit> orbit;              // mode 7
+};
+
+// Colour modes 1 to 7 from the current PointCount to `stop`; the caller yields.
+void coloredLoop(Workbench& wb, FractalPictures& pics, const RunMaps& m, const MapChoice& choice,
+                 RunColoring& rc, const PlotTarget& t, int32_t stop) {
+    Random rng = wb.Rng;
+    Orbit o{wb.PlotX, wb.PlotY, wb.PointCount};
+    warmUp(rng, m, choice, o, stop);
+    bool ok = true;
+    switch (rc.mode) {
+        case HeightColorMode:
+        case WidthColorMode:
+        case RadialColorMode:
+        case FixedPointColorMode: {
+            auto colorOf = [&rc](Random&, int, float x, float y) {
+                return rc.position->color(rc.gradient, x, y);
+            };
+            ok = colorLoop(rng, m, choice, t, pics, o, stop, colorOf);
+            break;
+        }
+        case RandomColorMode: {
+            auto colorOf = [&rc](Random& r, int, float, float) { return RandomStripColor(rc.strips, r); };
+            ok = colorLoop(rng, m, choice, t, pics, o, stop, colorOf);
+            break;
+        }
+        case VisitCountColorMode: {
+            VisitCounter& v = *rc.visits;
+            auto colorOf = [&v](Random&, int, float x, float y) { return v.plainColor(x, y); };
+            ok = colorLoop(rng, m, choice, t, pics, o, stop, colorOf);
+            break;
+        }
+        case StealingColorMode: {
+            StealingOrbit& orbit = *rc.orbit;
+            auto colorOf = [&orbit](Random&, int i, float, float) { return orbit.next(i); };
+            ok = colorLoop(rng, m, choice, t, pics, o, stop, colorOf);
+            break;
+        }
+        default:
+            break;
+    }
+    wb.Rng = rng;
+    wb.PointCount = o.count;
+    wb.PlotX = o.x;
+    wb.PlotY = o.y;
+    if (!ok) throw SurfaceOverflow();
+}
+
+// The constants of the run's colour mode, set up once before the loop.
+void prepareColoring(Workbench& wb, FractalPictures& pics, const RunMaps& maps, RunColoring& rc) {
+    rc.mode = PlayGameColorMode(wb, pics);
+    rc.gradient = wb.Gradient;
+    rc.gradient.GradientColorCount = GradientCount(rc.gradient);
+    switch (rc.mode) {
+        case HeightColorMode:
+        case WidthColorMode:
+        case RadialColorMode:
+        case FixedPointColorMode:
+            rc.position.emplace(rc.mode, wb, wb.CurrentIFS, maps.n);
+            break;
+        case RandomColorMode:
+            rc.strips = GradientStrips(rc.gradient);
+            wb.Rng.Randomize();
+            break;
+        case VisitCountColorMode:
+            rc.visits.emplace(wb.HitCount, wb.Window, pics.picfractal.width(), rc.gradient);
+            break;
+        case StealingColorMode:
+            rc.orbit.emplace(pics.Stealing);
+            break;
+        default:
+            break;
+    }
+}
+
 void restartPictures(Workbench& wb, FractalPictures& pics) {
     wb.PointCount = 0;
     pics.picImage3.takeImage(pics.picImage2);
@@ -213,6 +343,8 @@ void FinishPlayGame(Workbench& wb, FractalPictures& pics) {
 void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart, int32_t Count) {
     const int32_t limit = PlayGameLimit(Count, wb.PointCount);
     if (Restart == 1) restartPictures(wb, pics);
+    // The option button alone decides, whatever colour scheme is in force.
+    if (pics.Det.optColoring == VisitCountColorMode && wb.PointCount == 0) ClearHitCount(wb.HitCount);
     if (pics.Selection.SelectionActive) ClearSelectionRect(wb, pics);
 
     const RunMaps maps = CopyRunMaps(wb);
@@ -227,10 +359,15 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
         wb.PlotX = wb.Window.xmin;
         wb.PlotY = wb.Window.ymin;
     }
+    // A colouring IFS that does not fit stops the run before any menu changes.
+    if (PlayGameColorMode(wb, pics) == StealingColorMode && !SettleColoringIFS(wb, pics, host, maps.n))
+        return;
     wb.Rng.Randomize();
     switchCommandsForRun(wb);
     pics.Selection.SelectionActive = false;
     const MapChoice choice(MapChoice::CumProb(maps.p.data(), maps.n));
+    RunColoring coloring;
+    prepareColoring(wb, pics, maps, coloring);
     wb.FractalWindowCaption = PressQCaption;
     wb.DrawingStarted = true;
     wb.DrawingActive = true;
@@ -247,7 +384,12 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
             int32_t nextYield = wb.PointCount + 1;
             nextYield += static_cast<int32_t>(((50 - nextYield) % 100 + 100) % 100);
             const int32_t stop = nextYield < limit ? nextYield : limit;
-            plainLoop(wb, pics, maps, choice, skip, target, stop);
+            // The complex bases dialog and the tiling settings window will hand over to their own loops
+            // here; the tile loop counts visits with VisitCounter::tileColor, warm-up included.
+            if (coloring.mode == IFSColorMode)
+                plainLoop(wb, pics, maps, choice, skip, target, stop);
+            else
+                coloredLoop(wb, pics, maps, choice, coloring, target, stop);
             if ((static_cast<int64_t>(wb.PointCount) + 50) % 100 == 0) {
                 showCount(wb, pics);
                 host.yield();

@@ -114,6 +114,50 @@ if command -v pdfinfo >/dev/null 2>&1; then
 fi
 check "side by side too wide for the paper exits 1" status 1 "$cli" print "$data/default.ifs" --side-by-side --inches 4 --points 2000 --size 100 -o "$work/w.pdf"
 check "the paper-width warning" grep -q "The paper is not wide enough for" "$work/err"
+for mode in ifs height width radial fixed-points random visits; do
+    check "colour mode $mode" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --colors "$mode" -o "$work/c-$mode.png"
+done
+check "the default colours are the ifs mode" cmp -s "$work/t.png" "$work/c-ifs.png"
+for mode in height width radial fixed-points random visits; do
+    check "mode $mode gives its own picture" test -n "$(cmp "$work/c-ifs.png" "$work/c-$mode.png" 2>&1)"
+done
+"$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --colors visits -o "$work/c-visits2.png" 2>/dev/null
+check "visit counts repeat with a pinned seed" cmp -s "$work/c-visits.png" "$work/c-visits2.png"
+printf '2\n0,0,0,0\n0,0,255,10\n0,0,0,0\n0,0,0,0\n0,0,0,0\n0,0,0,0\n0,0,0,0\n' >"$work/g.txt"
+check "a gradient file" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --colors height --gradient "$work/g.txt" -o "$work/c-g.png"
+check "the gradient file changes the colours" test -n "$(cmp "$work/c-height.png" "$work/c-g.png" 2>&1)"
+printf 'x\n' >"$work/bad.txt"
+check "a broken gradient file exits 1" status 1 "$cli" render "$data/default.ifs" --colors height --gradient "$work/bad.txt" -o "$work/x.png"
+for k in $(seq 100); do echo "0,128,0"; done >"$work/p.map"
+check "a .map palette" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --palette "$work/p.map" -o "$work/c-p.png"
+check "the palette changes the colours" test -n "$(cmp "$work/c-ifs.png" "$work/c-p.png" 2>&1)"
+for k in $(seq 100); do echo "32768"; done >"$work/p.ifp"
+"$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --palette "$work/p.ifp" -o "$work/c-q.png" 2>/dev/null
+check "an .ifp palette reads the same colour" cmp -s "$work/c-p.png" "$work/c-q.png"
+check "colour stealing" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --colors steal --steal "$work/c-radial.png" -o "$work/c-s.png"
+check "stealing with a named colouring IFS" status 0 "$cli" render "$data/default.ifs" --points 20000 --size 64 --seed 1 --colors steal --steal "$work/c-radial.png" --steal-ifs "$data/default.ifs:1" -o "$work/c-s1.png"
+check "another colouring IFS, another picture" test -n "$(cmp "$work/c-s.png" "$work/c-s1.png" 2>&1)"
+check "a colouring IFS of another size exits 1" status 1 "$cli" render "$data/default.ifs" --points 2000 --colors steal --steal "$work/c-radial.png" --steal-ifs "$data/default.ifs:2" -o "$work/x.png"
+check "with the message of the stealing window" grep -q "have the same number of functions." "$work/err"
+check "an unreadable stealing picture exits 1" status 1 "$cli" render "$data/default.ifs" --colors steal --steal "$data/default.ifs" -o "$work/x.png"
+check "a deterministic gradient" status 0 "$cli" render "$data/default.ifs" --deterministic --levels 3 --figure square --size 64 --colors width -o "$work/c-dw.png"
+"$cli" render "$data/default.ifs" --deterministic --levels 3 --figure square --size 64 -o "$work/c-di.png" 2>/dev/null
+check "differs from the IFS colours" test -n "$(cmp "$work/c-di.png" "$work/c-dw.png" 2>&1)"
+check "unknown mode is bad usage" status 2 "$cli" render "$data/default.ifs" --colors plaid -o "$work/x.png"
+check "the reason is one line" test "$(head -1 "$work/err")" = "quillane-cli: --colors needs ifs, height, width, radial, fixed-points, random, visits or steal"
+check "steal without a picture is bad usage" status 2 "$cli" render "$data/default.ifs" --colors steal -o "$work/x.png"
+check "a picture without steal is bad usage" status 2 "$cli" render "$data/default.ifs" --steal "$work/c-radial.png" -o "$work/x.png"
+check "a colouring IFS without a picture is bad usage" status 2 "$cli" render "$data/default.ifs" --colors height --steal-ifs "$data/default.ifs:1" -o "$work/x.png"
+check "a broken --steal-ifs is bad usage" status 2 "$cli" render "$data/default.ifs" --colors steal --steal "$work/c-radial.png" --steal-ifs "$data/default.ifs" -o "$work/x.png"
+check "a gradient with the IFS colours is bad usage" status 2 "$cli" render "$data/default.ifs" --gradient "$work/g.txt" -o "$work/x.png"
+check "a palette with a gradient mode is bad usage" status 2 "$cli" render "$data/default.ifs" --colors radial --palette "$work/p.map" -o "$work/x.png"
+check "a palette of another kind is bad usage" status 2 "$cli" render "$data/default.ifs" --palette "$work/g.txt" -o "$work/x.png"
+check "visit counts are not offered deterministically" status 2 "$cli" render "$data/default.ifs" --deterministic --colors visits -o "$work/x.png"
+check "nor colour stealing" status 2 "$cli" render "$data/default.ifs" --deterministic --colors steal --steal "$work/c-radial.png" -o "$work/x.png"
+check "a picture initial set keeps its colours" status 2 "$cli" render "$data/default.ifs" --deterministic --colors height --initial "$work/d.png" -o "$work/x.png"
+check "bench in a colour mode" status 0 "$cli" --bench --points 20000 --size 64 --colors visits
+check "bench names its mode" grep -q "random engine, visits colours,   3 maps" "$work/out"
+check "bench with an unknown mode is bad usage" status 2 "$cli" --bench --colors plaid
 
 echo "$failures failure(s)"
 [ "$failures" -eq 0 ]
