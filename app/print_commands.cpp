@@ -82,17 +82,20 @@ bool PdfPrinter::end(std::string& error) {
     return true;
 }
 
+bool CheckPrintChoice(const PrintRequest& r, Host& host) {
+    const bool text = anyText(r);
+    if (r.toFile ? text : (r.fractal || r.design || text)) return true;
+    host.warn("Error", NothingToPrintMessage);
+    return false;
+}
+
 std::string PrintRequestText(const Workbench& wb, const PrintRequest& r) {
     return anyText(r) ? PrintText(wb.CurrentIFS, r.parts) : std::string();
 }
 
 bool PrintIFS(const Workbench& wb, const RasterSurface& fractal, const RasterSurface& design, const PrintRequest& r,
               Host& host, PagePrinter& printer, const std::function<void(const std::string&)>& status) {
-    const bool text = anyText(r);
-    if (r.toFile ? !text : !(r.fractal || r.design || text)) {
-        host.warn("Error", NothingToPrintMessage);
-        return false;
-    }
+    if (!CheckPrintChoice(r, host)) return false;
     const std::string lines = PrintRequestText(wb, r);
     if (r.toFile) return printToFile(lines, host);
     std::string error;

@@ -68,6 +68,9 @@ class PdfPrinter final : public PagePrinter {
     bool first_ = true;
 };
 
+// "Choose what to print" when nothing is chosen (the text alone counts when printing to a file).
+bool CheckPrintChoice(const PrintRequest& r, Host& host);
+
 // The text parts the request asks for, of the working IFS.
 std::string PrintRequestText(const Workbench& wb, const PrintRequest& r);
 

@@ -17,6 +17,7 @@
 #include "render/scale.h"
 #include "app/design_view.h"
 #include "shell/code_commands.h"
+#include "shell/print_commands.h"
 #include "shell/settings_location.h"
 #include "shell/chaos_commands.h"
 #include "shell/chaos_design_area.h"
@@ -87,6 +88,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterFigureCommands(*this);
     RegisterDesignCommands(*this);
     RegisterChaosCommands(*this);
+    RegisterPrintCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
