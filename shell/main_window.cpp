@@ -26,6 +26,7 @@
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/functions_window.h"
+#include "shell/help_commands.h"
 
 namespace quillane {
 
@@ -87,6 +88,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterFigureCommands(*this);
     RegisterDesignCommands(*this);
     RegisterChaosCommands(*this);
+    RegisterHelpCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);

@@ -162,7 +162,7 @@ TEST_F(FrameTest, TicksAndVisibilityFollowTheTable) {
 
 TEST_F(FrameTest, CommandsNotBuiltYetAreVisibleButDisabled) {
     open();
-    for (const char* key : {"mnuFilePrint", "mnuHelpWeb"}) {
+    for (const char* key : {"mnuFilePrint", "mnuFileOpenMovie"}) {
         EXPECT_TRUE(item(key)->isVisible()) << key;
         EXPECT_FALSE(item(key)->isEnabled()) << key;
     }
