@@ -14,8 +14,8 @@ struct WebCommand {
     bool mail;
 };
 constexpr WebCommand WebCommands[] = {
-    {"mnuWebHelp", HelpIndexTopic, false},    {"mnuHelpBug", ReportHelpTopic, true},
-    {"mnuHelpEmail", ReportHelpTopic, true},  {"mnuHelpWeb", ReportHelpTopic, false},
+    {"mnuWebHelp", HelpIndexTopic, false},       {"mnuHelpBug", ReportHelpTopic, true},
+    {"mnuHelpEmail", ReportHelpTopic, true},     {"mnuHelpWeb", ReportHelpTopic, false},
     {"mnuHelpGallery", GalleryHelpTopic, false}, {"mnuHelpVisitClassic", ReportHelpTopic, false},
 };
 

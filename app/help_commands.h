@@ -61,8 +61,8 @@ bool IsMailCommand(const std::string& key);
 bool RunWebCommand(Host& host, const std::string& programDir, const std::string& key, const OpenUrl& open);
 
 // The Help menu's web and mail items, in menu order.
-inline constexpr const char* WebCommandKeys[] = {"mnuWebHelp",     "mnuHelpBug",     "mnuHelpEmail",
-                                                 "mnuHelpWeb",     "mnuHelpGallery", "mnuHelpVisitClassic"};
+inline constexpr const char* WebCommandKeys[] = {"mnuWebHelp", "mnuHelpBug",     "mnuHelpEmail",
+                                                 "mnuHelpWeb", "mnuHelpGallery", "mnuHelpVisitClassic"};
 
 inline constexpr const char* AboutTitle = "About Quillane";
 // The program's name, version and the licences of what it is built with.

@@ -16,14 +16,16 @@ namespace quillane::testing {
 namespace {
 
 std::string expectedHelpError(const std::string& programDir) {
-    return "The help file could not be loaded.\n\nMake sure that the help folder is in the same\n" + programDir;
+    return "The help file could not be loaded.\n\nMake sure that the help folder is in the same\n" +
+           programDir;
 }
 
 TEST(GetHelpFile, AMissingHelpFolderGivesTheHelpErrorBox) {
     TempDir dir;
     ScriptedHost host;
     int shown = 0;
-    EXPECT_FALSE(GetHelpFile(host, dir.path("bin"), "index.html", [&](const std::string&) { return ++shown > 0; }));
+    EXPECT_FALSE(
+        GetHelpFile(host, dir.path("bin"), "index.html", [&](const std::string&) { return ++shown > 0; }));
     EXPECT_EQ(shown, 0);
     EXPECT_EQ(host.shown(), (Messages{{"Help Error", expectedHelpError(dir.path("bin"))}}));
 }
@@ -34,7 +36,8 @@ TEST(GetHelpFile, AMissingTopicGivesTheHelpErrorBox) {
     dir.write("help/index.html", "<html></html>");
     ScriptedHost host;
     int shown = 0;
-    EXPECT_FALSE(GetHelpFile(host, dir.path(""), "evaluationHelp.html", [&](const std::string&) { return ++shown > 0; }));
+    EXPECT_FALSE(GetHelpFile(host, dir.path(""), "evaluationHelp.html",
+                             [&](const std::string&) { return ++shown > 0; }));
     EXPECT_EQ(shown, 0);
     EXPECT_EQ(host.shown(), (Messages{{"Help Error", expectedHelpError(dir.path(""))}}));
 }
@@ -67,7 +70,8 @@ std::set<std::string> topicsNamedInTheCode() {
     std::set<std::string> topics;
     const std::regex quoted("\"([A-Za-z0-9_]+\\.html)\"");
     for (const char* folder : {"core", "render", "design", "generators", "movies", "app", "shell"}) {
-        for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(QUILLANE_SOURCE_DIR) / folder)) {
+        for (const auto& entry :
+             std::filesystem::directory_iterator(std::filesystem::path(QUILLANE_SOURCE_DIR) / folder)) {
             const std::string text = TempDir::read(entry.path().string());
             for (std::sregex_iterator it(text.begin(), text.end(), quoted), end; it != end; ++it)
                 topics.insert((*it)[1].str());
@@ -83,7 +87,8 @@ TEST(HelpPages, EveryTopicTheCodeNamesIsAPageOfTheHelpFolder) {
     EXPECT_TRUE(topics.count("designWindow.html"));
     EXPECT_TRUE(topics.count("evaluationHelp.html"));
     for (const std::string& topic : topics)
-        EXPECT_TRUE(std::filesystem::is_regular_file(std::filesystem::path(QUILLANE_SOURCE_DIR) / "help" / topic))
+        EXPECT_TRUE(
+            std::filesystem::is_regular_file(std::filesystem::path(QUILLANE_SOURCE_DIR) / "help" / topic))
             << topic;
 }
 
@@ -91,8 +96,8 @@ TEST(WebCommands, EachFailureSaysSoInItsOwnBox) {
     const Messages url{{"URL Failed", "A problem occurred with the browser"}};
     const Messages mail{{"Mail Failed", "A problem occurred in trying to send email"}};
     const std::vector<std::pair<std::string, Messages>> expected = {
-        {"mnuWebHelp", url},     {"mnuHelpBug", mail},     {"mnuHelpEmail", mail},
-        {"mnuHelpWeb", url},     {"mnuHelpGallery", url},  {"mnuHelpVisitClassic", url},
+        {"mnuWebHelp", url}, {"mnuHelpBug", mail},    {"mnuHelpEmail", mail},
+        {"mnuHelpWeb", url}, {"mnuHelpGallery", url}, {"mnuHelpVisitClassic", url},
     };
     for (const auto& [key, messages] : expected) {
         ScriptedHost host;
@@ -115,10 +120,12 @@ TEST(WebCommands, ASuccessShowsNoBoxAndOpensTheBundledPage) {
             return true;
         })) << key;
     EXPECT_TRUE(host.shown().empty());
-    EXPECT_EQ(asked, (std::vector<std::string>{
-                         "file:///opt/quillane/bin/help/index.html", "file:///opt/quillane/bin/help/contact.html",
-                         "file:///opt/quillane/bin/help/contact.html", "file:///opt/quillane/bin/help/contact.html",
-                         "file:///opt/quillane/bin/help/gallery.html", "file:///opt/quillane/bin/help/contact.html"}));
+    EXPECT_EQ(
+        asked,
+        (std::vector<std::string>{
+            "file:///opt/quillane/bin/help/index.html", "file:///opt/quillane/bin/help/contact.html",
+            "file:///opt/quillane/bin/help/contact.html", "file:///opt/quillane/bin/help/contact.html",
+            "file:///opt/quillane/bin/help/gallery.html", "file:///opt/quillane/bin/help/contact.html"}));
 }
 
 TEST(WebCommands, BlanksInTheProgramsFolderAreEscaped) {
@@ -133,7 +140,8 @@ TEST(About, TheBoxNamesTheProgramItsVersionAndTheLicences) {
     EXPECT_EQ(host.shown()[0].title, "About Quillane");
     const std::string& text = host.shown()[0].text;
     EXPECT_EQ(text.rfind(std::string("Quillane ") + QUILLANE_VERSION + "\n", 0), 0u) << text;
-    for (const char* licence : {"LGPL version 3", "FreeImage Public License", "GoogleTest (BSD 3-Clause License)"})
+    for (const char* licence :
+         {"LGPL version 3", "FreeImage Public License", "GoogleTest (BSD 3-Clause License)"})
         EXPECT_NE(text.find(licence), std::string::npos) << licence;
 }
 

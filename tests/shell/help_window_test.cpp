@@ -1,3 +1,5 @@
+#include "shell/help_window.h"
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
@@ -11,7 +13,6 @@
 #include "shell/evaluate_dialog.h"
 #include "shell/frame_toolbar.h"
 #include "shell/help_commands.h"
-#include "shell/help_window.h"
 #include "tests/shell/frame_fixture.h"
 
 namespace quillane::testing {
