@@ -1,8 +1,7 @@
 #include "app/design_toolbar.h"
 
-#include <filesystem>
-
 #include "app/chaos_design.h"
+#include "app/help_commands.h"
 #include "design/gesture_math.h"
 #include "app/transform_commands.h"
 
@@ -41,12 +40,8 @@ void ToolbarRotate(Workbench& wb, double angle) {
         RotateIFSDesign(wb, angle);
 }
 
-bool DesignHelp(Host& host, const std::string& programDir, const std::function<bool(const std::string&)>& open) {
-    const std::string path = (std::filesystem::path(programDir) / HelpFileName).string();
-    std::error_code ec;
-    if (std::filesystem::is_regular_file(path, ec) && open && open(path)) return true;
-    host.warn(HelpErrorTitle, DesignHelpErrorText);
-    return false;
+bool DesignHelp(Host& host, const std::string& programDir, const std::function<bool(const std::string&)>& show) {
+    return GetHelpFile(host, programDir, DesignWindowHelpTopic, show);
 }
 
 }  // namespace quillane

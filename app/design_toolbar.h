@@ -35,13 +35,8 @@ bool ToolbarCanRotate(const Workbench& wb);
 // game mode; nothing without a selection or while drawing.
 void ToolbarRotate(Workbench& wb, double angle);
 
-inline constexpr const char* HelpFileName = "Quillane Help.chm";
-inline constexpr const char* HelpErrorTitle = "Help Error";
-inline constexpr const char* DesignHelpErrorText =
-    "The help file could not be loaded.\nMake sure that Quillanehelp.chm is in the same";
-
-// The "help" button: opens the help file of the program's folder through `open`; a missing file or
-// a failed opening says so in a box. True when the help opened.
-bool DesignHelp(Host& host, const std::string& programDir, const std::function<bool(const std::string&)>& open);
+// The "help" button: the design window's help page through GetHelpFile, which reports a missing
+// folder or page, or a failed showing, in the "Help Error" box. True when the page is shown.
+bool DesignHelp(Host& host, const std::string& programDir, const std::function<bool(const std::string&)>& show);
 
 }  // namespace quillane

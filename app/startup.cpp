@@ -146,6 +146,8 @@ bool Finish(Workbench& wb, StartFlags& flags, const SettingsHooks& hooks) {
     if (flags.Finished) return false;
     flags.Finished = true;
     wb.DrawingActive = false;
+    if (flags.HelpOpen && hooks.CloseHelp) hooks.CloseHelp();
+    flags.HelpOpen = false;
     if (hooks.TakeLiveSettings) hooks.TakeLiveSettings(wb);
     const bool write = wb.SettingsChanged || flags.SettingsInvalid;
     if (write && hooks.WriteSettings) hooks.WriteSettings(wb);

@@ -30,6 +30,7 @@ struct StartFlags {
     FileOpenResult FileOpened;
     bool SettingsRead = false;     // the settings file was there
     bool SettingsInvalid = false;  // it could not be used, or there was none
+    bool HelpOpen = false;         // a help page is shown (GetHelpFile succeeded)
 };
 
 // Where the settings file is read and written, and how the windows' live places are taken, is
@@ -40,6 +41,8 @@ struct SettingsHooks {
     std::function<void(const Workbench&)> WriteSettings;
     // Before Finish decides: the windows as they stand now (TakeLiveWindows).
     std::function<void(Workbench&)> TakeLiveSettings;
+    // Closes the help window; Finish calls it while help is open, as the help must not outlive the program.
+    std::function<void()> CloseHelp;
 };
 
 // What the start needs from the layers above the model.
@@ -74,8 +77,8 @@ StartFlags StartProgram(Workbench& wb, Host& host, const std::string& commandLin
                         const std::string& programDir, const std::string& localeText,
                         const StartHooks& hooks = {});
 
-// Stops any drawing and hands the settings to WriteSettings when they changed or were unusable.
-// Runs once; returns whether the settings were due to be written.
+// Stops any drawing, closes the help while it is open, and hands the settings to WriteSettings when
+// they changed or were unusable. Runs once; returns whether the settings were due to be written.
 bool Finish(Workbench& wb, StartFlags& flags, const SettingsHooks& hooks);
 
 // mnuExit: the exit test and CheckSave; Cancel keeps the program running (false). Otherwise

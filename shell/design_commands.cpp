@@ -1,8 +1,6 @@
 #include "shell/design_commands.h"
 
-#include <QDesktopServices>
 #include <QFontMetrics>
-#include <QUrl>
 #include <QLabel>
 #include <QMdiSubWindow>
 
@@ -15,6 +13,7 @@
 #include "app/undo.h"
 #include "shell/design_window.h"
 #include "shell/functions_window.h"
+#include "shell/help_commands.h"
 #include "shell/main_window.h"
 #include "shell/transform_dialogs_qt.h"
 #include "app/window_commands.h"
@@ -74,9 +73,8 @@ void registerViewCommands(MainWindow& frame) {
     frame.setCommand("mnuDesignZoom", [&s] { DesignWinZoom(s.wb, s.design, 1); });
     frame.setCommand("mnuDesignZoomIn", [&s] { DesignWinZoom(s.wb, s.design, -1); });
     frame.setCommand("DesignHelp", [&frame] {
-        DesignHelp(frame.host(), frame.programDir(), [](const std::string& path) {
-            return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
-        });
+        DesignHelp(frame.host(), frame.programDir(),
+                   [&frame](const std::string& path) { return ShowHelpPage(frame, path); });
     });
     frame.setArrayCommand("MnuDesignShiftDir", [&s](int i) { MnuDesignShiftDir_Click(s.wb, s.design, i); });
 }

@@ -27,6 +27,7 @@
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/functions_window.h"
+#include "shell/help_commands.h"
 
 namespace quillane {
 
@@ -89,6 +90,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterDesignCommands(*this);
     RegisterChaosCommands(*this);
     RegisterPrintCommands(*this);
+    RegisterHelpCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);

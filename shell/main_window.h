@@ -68,6 +68,7 @@ class MainWindow : public QMainWindow {
     Host& host() { return host_; }
     const std::string& programDir() const { return start_.programDir; }
     StartFlags& flags() { return flags_; }
+    SettingsHooks& settingsHooks() { return settingsHooks_; }
     QAction* menuAction(const std::string& key) const { return menus_->action(key); }
     // A submenu of the bar ("mnuDraw") or a pop-up menu ("mnuPopup").
     QMenu* menu(const std::string& key) const { return menus_->menu(key); }

@@ -101,26 +101,29 @@ TEST_F(DesignToolbarChaos, InChaosGameModeTheRecipeTurnsAsRotateCGDesign) {
     EXPECT_EQ(wb.menu("mnuUndo").caption, "&Undo Rotation");
 }
 
-TEST(DesignHelp, AMissingHelpFileSaysSoInTheHelpErrorBox) {
+// The design window's button is GetHelpFile at the design window's page.
+TEST(DesignHelp, AMissingHelpFolderSaysSoInTheHelpErrorBox) {
     TempDir dir;
     ScriptedHost host;
     int opened = 0;
     EXPECT_FALSE(DesignHelp(host, dir.path(""), [&](const std::string&) { return ++opened > 0; }));
     EXPECT_EQ(opened, 0);
     EXPECT_EQ(host.shown(), (std::vector<ShownMessage>{
-                                {"Help Error", "The help file could not be loaded.\nMake sure that Quillanehelp.chm is in the same"}}));
+                                {"Help Error", "The help file could not be loaded.\n\nMake sure that the help "
+                                               "folder is in the same\n" + dir.path("")}}));
 }
 
-TEST(DesignHelp, ThePresentFileIsOpenedAndAFailedOpeningIsReported) {
+TEST(DesignHelp, TheDesignPageIsOpenedAndAFailedOpeningIsReported) {
     TempDir dir;
-    const std::string file = dir.write("Quillane Help.chm", "help");
+    std::filesystem::create_directories(dir.path("help"));
+    const std::string page = dir.write("help/designWindow.html", "<html></html>");
     ScriptedHost host;
     std::string asked;
     EXPECT_TRUE(DesignHelp(host, dir.path(""), [&](const std::string& path) {
         asked = path;
         return true;
     }));
-    EXPECT_EQ(asked, file);
+    EXPECT_EQ(asked, page);
     EXPECT_TRUE(host.shown().empty());
     EXPECT_FALSE(DesignHelp(host, dir.path(""), [](const std::string&) { return false; }));
     ASSERT_EQ(host.shown().size(), 1u);

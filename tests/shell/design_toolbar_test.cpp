@@ -8,10 +8,14 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <filesystem>
+
 #include "app/chaos_design.h"
+#include "app/help_commands.h"
 #include "app/transform_commands.h"
 #include "shell/chaos_design_area.h"
 #include "shell/design_window.h"
+#include "shell/help_window.h"
 #include "shell/main_window.h"
 #include "tests/shell/frame_fixture.h"
 
@@ -289,11 +293,24 @@ TEST_F(DesignToolbarTest, NoPopupWhileDrawingThePolygon) {
     EXPECT_FALSE(frame->state().design.Poly.PolygonMode);
 }
 
-TEST_F(DesignToolbarTest, HelpWithoutAHelpFileShowsTheHelpErrorBox) {
+// The button goes through GetHelpFile, so its box names the help folder and the program's folder.
+TEST_F(DesignToolbarTest, HelpWithoutAHelpFolderShowsTheHelpErrorBox) {
     button("help")->trigger();
     ASSERT_EQ(host.shown().size(), 1u);
     EXPECT_EQ(host.shown()[0].title, "Help Error");
-    EXPECT_EQ(host.shown()[0].text, DesignHelpErrorText);
+    EXPECT_EQ(host.shown()[0].text, HelpErrorText(frame->programDir()));
+    EXPECT_EQ(frame->findChild<HelpWindow*>(), nullptr);
+}
+
+TEST_F(DesignToolbarTest, HelpOpensTheDesignWindowsPage) {
+    std::filesystem::create_directories(dir.path("help"));
+    dir.write("help/designWindow.html", "<html><body><h1>Design window</h1></body></html>");
+    button("help")->trigger();
+    EXPECT_TRUE(host.shown().empty());
+    auto* help = frame->findChild<HelpWindow*>();
+    ASSERT_NE(help, nullptr);
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->currentTopic(), "designWindow.html");
 }
 
 TEST_F(DesignToolbarTest, EveryButtonHasAPictureOfItsOwnAndItsNameAsTip) {
