@@ -68,6 +68,16 @@ int ColorModeByName(const std::string& name) {
     return -1;
 }
 
+bool ParseWholeNumber(const std::string& text, long long lo, long long hi, long long& out) {
+    if (text.empty()) return false;
+    errno = 0;
+    char* end = nullptr;
+    long long v = std::strtoll(text.c_str(), &end, 10);
+    if (errno != 0 || *end != '\0' || v < lo || v > hi) return false;
+    out = v;
+    return true;
+}
+
 namespace {
 
 std::string lowerExtension(const std::string& file) {
@@ -92,16 +102,6 @@ std::string colorUsageError(const RenderOptions& r) {
     if (r.deterministic && !r.initial.empty() && (m != 0 || !r.palette.empty()))
         return "a picture initial set keeps its own colours: no --colors or --palette with it";
     return "";
-}
-
-bool parseInt(const std::string& text, long long lo, long long hi, long long& out) {
-    if (text.empty()) return false;
-    errno = 0;
-    char* end = nullptr;
-    long long v = std::strtoll(text.c_str(), &end, 10);
-    if (errno != 0 || *end != '\0' || v < lo || v > hi) return false;
-    out = v;
-    return true;
 }
 
 bool parseWindow(const std::string& text, WorldWindow& w) {
@@ -140,18 +140,18 @@ ParseResult parseRender(const std::vector<std::string>& args) {
         std::string v;
         long long n = 0;
         if (a == "--entry") {
-            if (!value(v) || !parseInt(v, 1, 999999999, n)) return usage("--entry needs a positive number");
+            if (!value(v) || !ParseWholeNumber(v, 1, 999999999, n)) return usage("--entry needs a positive number");
             r.entry = static_cast<int>(n);
         } else if (a == "--points") {
-            if (!value(v) || !parseInt(v, 1, 999999950, n))
+            if (!value(v) || !ParseWholeNumber(v, 1, 999999950, n))
                 return usage("--points needs a number from 1 to 999999950");
             r.points = static_cast<int>(n);
         } else if (a == "--size") {
-            if (!value(v) || !parseInt(v, 1, 20000, n))
+            if (!value(v) || !ParseWholeNumber(v, 1, 20000, n))
                 return usage("--size needs a number of pixels from 1 to 20000");
             r.size = static_cast<int>(n);
         } else if (a == "--seed") {
-            if (!value(v) || !parseInt(v, 0, INT64_MAX, n)) return usage("--seed needs a whole number");
+            if (!value(v) || !ParseWholeNumber(v, 0, INT64_MAX, n)) return usage("--seed needs a whole number");
             r.seed = static_cast<uint64_t>(n);
         } else if (a == "--window") {
             WorldWindow w;
@@ -161,7 +161,7 @@ ParseResult parseRender(const std::vector<std::string>& args) {
         } else if (a == "--deterministic") {
             r.deterministic = true;
         } else if (a == "--levels") {
-            if (!value(v) || !parseInt(v, 0, 100, n)) return usage("--levels needs a number from 0 to 100");
+            if (!value(v) || !ParseWholeNumber(v, 0, 100, n)) return usage("--levels needs a number from 0 to 100");
             r.levels = static_cast<int>(n);
             levelsGiven = true;
         } else if (a == "--figure") {
@@ -191,7 +191,7 @@ ParseResult parseRender(const std::vector<std::string>& args) {
         } else if (a == "--steal-ifs") {
             const size_t colon = value(r.stealIfs) ? r.stealIfs.rfind(':') : std::string::npos;
             if (colon == std::string::npos || colon == 0 ||
-                !parseInt(r.stealIfs.substr(colon + 1), 1, 999999999, n))
+                !ParseWholeNumber(r.stealIfs.substr(colon + 1), 1, 999999999, n))
                 return usage("--steal-ifs needs FILE:ENTRY");
             r.stealEntry = static_cast<int>(n);
             r.stealIfs.resize(colon);
@@ -223,10 +223,10 @@ ParseResult parseBench(const std::vector<std::string>& args) {
     cmd.kind = Command::Bench;
     for (size_t i = 1; i < args.size(); ++i) {
         long long n = 0;
-        if (args[i] == "--points" && i + 1 < args.size() && parseInt(args[i + 1], 1, 999999950, n)) {
+        if (args[i] == "--points" && i + 1 < args.size() && ParseWholeNumber(args[i + 1], 1, 999999950, n)) {
             cmd.bench.points = static_cast<int>(n);
             ++i;
-        } else if (args[i] == "--size" && i + 1 < args.size() && parseInt(args[i + 1], 1, 20000, n)) {
+        } else if (args[i] == "--size" && i + 1 < args.size() && ParseWholeNumber(args[i + 1], 1, 20000, n)) {
             cmd.bench.size = static_cast<int>(n);
             ++i;
         } else if (args[i] == "--colors" && i + 1 < args.size() && ColorModeByName(args[i + 1]) >= 0) {

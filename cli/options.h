@@ -62,6 +62,9 @@ struct ParseResult {
 
 ParseResult ParseCommandLine(const std::vector<std::string>& args);
 
+// A whole number in lo..hi, the whole text and nothing else.
+bool ParseWholeNumber(const std::string& text, long long lo, long long hi, long long& out);
+
 extern const char* const UsageText;
 
 }  // namespace quillane::cli

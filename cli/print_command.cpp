@@ -10,6 +10,7 @@
 #include "app/print_commands.h"
 #include "cli/cli_host.h"
 #include "cli/list_input.h"
+#include "cli/options.h"
 #include "core/menu_tree.h"
 #include "core/workbench.h"
 #include "design/design_pictures.h"
@@ -37,16 +38,6 @@ std::vector<std::string> items(const std::string& list) {
     return out;
 }
 
-bool whole(const std::string& text, long long lo, long long hi, long long& out) {
-    if (text.empty()) return false;
-    char* end = nullptr;
-    errno = 0;
-    const long long v = std::strtoll(text.c_str(), &end, 10);
-    if (errno != 0 || *end != '\0' || v < lo || v > hi) return false;
-    out = v;
-    return true;
-}
-
 bool writeText(const std::string& path, const std::string& text) {
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out << text;
@@ -67,7 +58,7 @@ std::optional<std::string> ParsePrintOptions(const std::vector<std::string>& arg
         std::string v;
         long long n = 0;
         if (a == "--entry") {
-            if (!value(v) || !whole(v, 1, 999999999, n)) return "--entry needs a positive number";
+            if (!value(v) || !ParseWholeNumber(v, 1, 999999999, n)) return "--entry needs a positive number";
             p.entry = static_cast<int>(n);
         } else if (a == "--what") {
             if (!value(v)) return "--what needs text, fractal or design";
@@ -94,16 +85,16 @@ std::optional<std::string> ParsePrintOptions(const std::vector<std::string>& arg
         } else if (a == "--landscape") {
             p.landscape = true;
         } else if (a == "--inches") {
-            if (!value(v) || !whole(v, 1, 10, n)) return "--inches needs a number from 1 to 10";
+            if (!value(v) || !ParseWholeNumber(v, 1, 10, n)) return "--inches needs a number from 1 to 10";
             p.sideInches = static_cast<double>(n);
         } else if (a == "--points") {
-            if (!value(v) || !whole(v, 1, 999999950, n)) return "--points needs a number from 1 to 999999950";
+            if (!value(v) || !ParseWholeNumber(v, 1, 999999950, n)) return "--points needs a number from 1 to 999999950";
             p.points = static_cast<int>(n);
         } else if (a == "--size") {
-            if (!value(v) || !whole(v, 1, 4000, n)) return "--size needs a number of pixels from 1 to 4000";
+            if (!value(v) || !ParseWholeNumber(v, 1, 4000, n)) return "--size needs a number of pixels from 1 to 4000";
             p.size = static_cast<int>(n);
         } else if (a == "--seed") {
-            if (!value(v) || !whole(v, 0, INT64_MAX, n)) return "--seed needs a whole number";
+            if (!value(v) || !ParseWholeNumber(v, 0, INT64_MAX, n)) return "--seed needs a whole number";
             p.seed = static_cast<uint64_t>(n);
         } else if (a == "-o") {
             if (!value(p.output)) return "-o needs a file name";

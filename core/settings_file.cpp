@@ -141,11 +141,12 @@ void correctPlaces(Workbench& wb, const WindowPlace& frame) {
 
 // Reads sections in order, noting in `reached` the one being read.
 void readSections(Reader& r, Workbench& wb, Section& reached) {
-    reached = IFSColors;
-    r.heading(IFSColors);
-    std::string next;
-    int i = 0;
-    for (; i < FunctionColorCount; ++i) {
+    auto enter = [&r, &reached](Section s) {
+        reached = s;
+        r.heading(s);
+    };
+    enter(IFSColors);
+    for (int i = 0; i < FunctionColorCount; ++i) {
         std::string l = r.line();
         if (!l.empty() && l[0] == '[') {
             for (int k = i; k < FunctionColorCount; ++k) {
@@ -162,50 +163,36 @@ void readSections(Reader& r, Workbench& wb, Section& reached) {
         wb.FileColors[i] = static_cast<Color>(c);
     }
     WindowPositions& p = wb.Windows;
-    reached = FunctionPosition;
-    r.heading(FunctionPosition);
+    enter(FunctionPosition);
     p.functions = r.place();
-    reached = FractalPosition;
-    r.heading(FractalPosition);
+    enter(FractalPosition);
     p.fractal = r.place();
-    reached = DesignPosition;
-    r.heading(DesignPosition);
+    enter(DesignPosition);
     p.design = r.place();
-    reached = FractalBack;
-    r.heading(FractalBack);
+    enter(FractalBack);
     wb.FractalBackColor = static_cast<Color>(r.notNegative());
-    reached = FractalAxis;
-    r.heading(FractalAxis);
+    enter(FractalAxis);
     wb.FractalAxisColor = static_cast<Color>(r.notNegative());
-    reached = TilingColorsSection;
-    r.heading(TilingColorsSection);
+    enter(TilingColorsSection);
     for (size_t k = 0; k < wb.TilingColor.size(); ++k) {
         wb.TilingColor[k] = static_cast<Color>(r.notNegative());
         wb.TilingFileColors[k] = wb.TilingColor[k];
     }
-    reached = TilingOptionsPosition;
-    r.heading(TilingOptionsPosition);
+    enter(TilingOptionsPosition);
     p.tilingOptions = r.place(false);
-    reached = PreviewPosition;
-    r.heading(PreviewPosition);
+    enter(PreviewPosition);
     p.preview = r.place();
-    reached = HiddenWindows;
-    r.heading(HiddenWindows);
+    enter(HiddenWindows);
     for (bool& hidden : wb.MainWindowHidden) hidden = r.boolean();
-    reached = ColorStealingPosition;
-    r.heading(ColorStealingPosition);
+    enter(ColorStealingPosition);
     p.colorStealing = r.place();
-    reached = DesignBack;
-    r.heading(DesignBack);
+    enter(DesignBack);
     wb.DesignBackColor = static_cast<Color>(r.notNegative());
-    reached = DesignAxis;
-    r.heading(DesignAxis);
+    enter(DesignAxis);
     wb.DesignAxisColor = static_cast<Color>(r.notNegative());
-    reached = ToolTipsSection;
-    r.heading(ToolTipsSection);
+    enter(ToolTipsSection);
     wb.Menu.setChecked(ToolTipsKey, r.boolean());
-    reached = RecentFilesSection;
-    r.heading(RecentFilesSection);
+    enter(RecentFilesSection);
     std::array<std::string, RecentFileSlots> paths;
     for (std::string& path : paths) path = r.quoted();
     // Free slots in the middle of a hand-edited list close up: the menu shows no gaps.
