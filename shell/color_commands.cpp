@@ -3,6 +3,7 @@
 #include "app/gradient_commands.h"
 #include "core/menu_tree.h"
 #include "shell/main_window.h"
+#include "shell/palette_window.h"
 #include "shell/pixel_coloring_window.h"
 
 namespace quillane {
@@ -43,6 +44,11 @@ void RegisterColorCommands(MainWindow& frame) {
         showPixelColoring(frame);
     });
     frame.setCommand(MenuTable::key("mnuWin", ColorGradientWindowItem), [&frame] { showPixelColoring(frame); });
+    // Modal: Accept or Reject ends it; the frame then shows the colours.
+    frame.setCommand("mnuCodeEditPalette", [&frame, &s] {
+        PaletteWindow window(s, frame.host(), &frame);
+        window.exec();
+    });
 }
 
 void RefreshColorWindows(MainWindow& frame) {
