@@ -1,5 +1,8 @@
 #pragma once
 // What the windows of the program share: the workbench and the pictures of the fractal and design windows.
+#include <array>
+
+#include "core/gradient_colors.h"
 #include "core/workbench.h"
 #include "design/design_pictures.h"
 #include "render/fractal_pictures.h"
@@ -10,6 +13,8 @@ struct AppState {
     Workbench wb;
     FractalPictures pics;
     DesignPictures design;
+    // The seven default colours of the gradient window; a loaded gradient file becomes the default.
+    std::array<Color, GradientColorSlots> GradientDefaults = DefaultGradient().picColors;
 };
 
 }  // namespace quillane

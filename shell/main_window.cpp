@@ -17,6 +17,7 @@
 #include "render/scale.h"
 #include "app/design_view.h"
 #include "shell/code_commands.h"
+#include "shell/color_commands.h"
 #include "shell/print_commands.h"
 #include "shell/settings_location.h"
 #include "shell/chaos_commands.h"
@@ -91,6 +92,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterChaosCommands(*this);
     RegisterPrintCommands(*this);
     RegisterHelpCommands(*this);
+    RegisterColorCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
@@ -312,6 +314,7 @@ void MainWindow::refreshWindows() {
     fractal_->refresh();
     RedrawDesignIfChanged(state_.wb, state_.design);
     design_->refresh();
+    RefreshColorWindows(*this);
 }
 
 QMdiSubWindow* MainWindow::childWindow(int index) const {
