@@ -7,12 +7,14 @@
 #include "design/design_drawing.h"
 #include "app/design_toolbar.h"
 #include "app/design_view.h"
+#include "app/grid_size.h"
 #include "app/polygon_commands.h"
 #include "app/transform_commands.h"
 #include "app/transform_count_commands.h"
 #include "app/undo.h"
 #include "shell/design_window.h"
 #include "shell/functions_window.h"
+#include "shell/grid_size_dialog.h"
 #include "shell/help_commands.h"
 #include "shell/main_window.h"
 #include "shell/transform_dialogs_qt.h"
@@ -89,6 +91,12 @@ void registerTransformCommands(MainWindow& frame) {
     frame.setCommand("mnuDesignClear", [&s, &host] { mnuDesignClear_Click(s.wb, host); });
     frame.setCommand("mnuDesignFlipHor", [&s] { mnuDesignFlipHor_Click(s.wb); });
     frame.setCommand("mnuDesignFlipVert", [&s] { mnuDesignFlipVert_Click(s.wb); });
+    // Ctrl+Alt+G: Cancel leaves the grid as it was.
+    frame.setCommand("DesignGridSize", [&frame, &s] {
+        GridSizeDialog dialog(frame.host(), s.wb.GridX, s.wb.GridY, &frame);
+        if (dialog.exec() != QDialog::Accepted || !dialog.spacing()) return;
+        DesignGridSize(s.wb, s.design, *dialog.spacing());
+    });
     frame.setCommand("DesignRotateLeft", [&s] { ToolbarRotate(s.wb, 90); });
     frame.setCommand("DesignRotateRight", [&s] { ToolbarRotate(s.wb, -90); });
     // In chaos game mode Scale and Rotate are the moves window's business.

@@ -277,6 +277,12 @@ void DesignForm::handleKey(QKeyEvent* event) {
     const int code = DesignKeyCodeOf(event->key(), event->modifiers());
     const int shift = DesignShiftOf(event->modifiers());
     if (code == 0) return;
+    if (event->key() == Qt::Key_G && (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) ==
+                                         (Qt::ControlModifier | Qt::AltModifier)) {
+        if (runCommand) runCommand("DesignGridSize");
+        changed();
+        return;
+    }
     if (code == KeyCtrl17 && !event->isAutoRepeat()) {
         if (const auto cursor = CtrlCursor(state_.wb, state_.design, gesture_, true)) setDesignCursor(*cursor);
     }
