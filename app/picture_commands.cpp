@@ -1,6 +1,8 @@
 #include "app/picture_commands.h"
 
 #include "core/numbers.h"
+#include "core/workbench.h"
+#include "design/design_pictures.h"
 #include "render/bmp_file.h"
 #include "render/image_file.h"
 
@@ -30,7 +32,8 @@ bool SavePictureAs(const RasterSurface& picture, const std::string& path, int fi
     return SaveImageFile(picture, path, error);
 }
 
-bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title, int& FilterIndex) {
+bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title, int& FilterIndex,
+                        const std::string& initialName) {
     int filter = FilterIndex;
     FileDialogRequest request;
     request.title = title;
@@ -38,6 +41,7 @@ bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::str
     request.folderKey = "SavePicture";
     request.chosenFilter = &filter;
     request.initialFilter = FilterIndex;
+    request.initialName = initialName;
     const auto name = host.saveFileName(request);
     if (!name) return false;
     FilterIndex = filter;
@@ -48,6 +52,15 @@ bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::str
         return false;
     }
     return true;
+}
+
+std::string DesignPictureName(const Workbench& wb) {
+    return Trim(wb.CurrentIFS.Name) + (wb.DesignMode == 1 ? " CG design" : " design");
+}
+
+bool mnuFileSaveDesign_Click(Workbench& wb, const DesignPictures& d, Host& host) {
+    return SavePictureCommand(d.shownPicture(wb.DesignMode == 1), host, SaveDesignTitle, wb.SavePictureFilter,
+                              DesignPictureName(wb));
 }
 
 }  // namespace quillane

@@ -1,5 +1,5 @@
 #pragma once
-// Saving the fractal picture to a file.
+// Saving the fractal and design pictures to files.
 #include <string>
 
 #include "core/host.h"
@@ -7,6 +7,8 @@
 #include "render/raster_surface.h"
 
 namespace quillane {
+
+struct DesignPictures;
 
 inline constexpr const char* SaveFractalTitle = "Save Fractal Image";
 inline constexpr const char* SaveImageTitle = "Save Image";
@@ -25,6 +27,13 @@ bool SavePictureAs(const RasterSurface& picture, const std::string& path, int fi
 // asks for a name, adds the extension, writes; "Image save failed" when the write fails.
 // The dialog opens on FilterIndex (1 to 4), which keeps the filter chosen, as the folder is kept, until
 // the program ends. Returns whether a file was written.
-bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title, int& FilterIndex);
+bool SavePictureCommand(const RasterSurface& picture, Host& host, const std::string& title, int& FilterIndex,
+                        const std::string& initialName = "");
+
+inline constexpr const char* SaveDesignTitle = "Save Design Image";
+// mnuFileSaveDesign: the picture the design window shows, offered as the IFS name with " design",
+// or " CG design" for a chaos game.
+std::string DesignPictureName(const Workbench& wb);
+bool mnuFileSaveDesign_Click(Workbench& wb, const DesignPictures& d, Host& host);
 
 }  // namespace quillane

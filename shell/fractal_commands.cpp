@@ -121,6 +121,7 @@ void registerPictures(MainWindow& frame) {
     frame.setCommand("mnuPopupSave",
                      [&s, &host] { SavePictureCommand(s.pics.picfractal, host, SaveImageTitle, s.wb.SavePictureFilter); });
     frame.setCommand("mnuPopUpClear", [] {});
+    frame.setCommand("mnuFileSaveDesign", [&s, &host] { mnuFileSaveDesign_Click(s.wb, s.design, host); });
 }
 
 // A picture floating over the drawing, and placed under it.

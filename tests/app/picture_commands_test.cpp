@@ -6,6 +6,8 @@
 #include <fstream>
 
 #include "core/scripted_host.h"
+#include "core/workbench.h"
+#include "design/design_pictures.h"
 #include "render/image_file.h"
 #include "tests/core/list_file_fixture.h"
 
@@ -102,6 +104,39 @@ TEST(SaveFractal, AFailedWriteSaysImageSaveFailed) {
     EXPECT_FALSE(SavePictureCommand(marked(), host, SaveImageTitle, filter));
     EXPECT_EQ(host.shown(), (std::vector<ShownMessage>{{"Error", "Image save failed"}}));
     EXPECT_EQ(host.dialogs()[0].title, "Save Image");
+}
+
+TEST(SaveDesign, TheNameOffersTheIFSAndTheWindowShownIsSaved) {
+    TempDir dir;
+    Workbench wb;
+    DesignPictures d;
+    d.resize(20, 10, White);
+    d.picdesign.setPixel(3, 4, RGB(255, 0, 0));
+    d.picCGDesign.setPixel(5, 6, RGB(0, 0, 255));
+    wb.CurrentIFS.Name = "Fern ";
+    EXPECT_EQ(DesignPictureName(wb), "Fern design");
+    ScriptedHost host;
+    host.fileNames.push_back(dir.path("ifs"));
+    host.filters.push_back(4);
+    ASSERT_TRUE(mnuFileSaveDesign_Click(wb, d, host));
+    ASSERT_EQ(host.dialogs().size(), 1u);
+    EXPECT_EQ(host.dialogs()[0].title, "Save Design Image");
+    EXPECT_EQ(host.dialogs()[0].initialName, "Fern design");
+    EXPECT_EQ(host.dialogs()[0].filters.size(), 4u);
+    RasterSurface back(1, 1);
+    std::string error;
+    ASSERT_TRUE(LoadImageFile(dir.path("ifs.bmp"), back, error)) << error;
+    EXPECT_EQ(back.width(), 20);
+    EXPECT_EQ(back.pixel(3, 4), RGB(255, 0, 0));
+    // A chaos game saves the chaos game's picture, named so.
+    wb.DesignMode = 1;
+    EXPECT_EQ(DesignPictureName(wb), "Fern CG design");
+    host.fileNames.push_back(dir.path("cg"));
+    host.filters.push_back(4);
+    ASSERT_TRUE(mnuFileSaveDesign_Click(wb, d, host));
+    ASSERT_TRUE(LoadImageFile(dir.path("cg.bmp"), back, error)) << error;
+    EXPECT_EQ(back.pixel(5, 6), RGB(0, 0, 255));
+    EXPECT_EQ(back.pixel(3, 4), White);
 }
 
 }  // namespace
