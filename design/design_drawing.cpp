@@ -35,11 +35,13 @@ int nMapsOf(const Workbench& wb) {
 
 }  // namespace
 
+void DesignPictures::setBackColor(Color back) {
+    for (RasterSurface* s : {&picdesign, &picCGDesign, &picImage}) s->setBackColor(back);
+}
+
 void DesignPictures::resize(int width, int height, Color back) {
-    for (RasterSurface* s : {&picdesign, &picCGDesign, &picImage}) {
-        s->setBackColor(back);
-        s->resize(width, height);
-    }
+    setBackColor(back);
+    for (RasterSurface* s : {&picdesign, &picCGDesign, &picImage}) s->resize(width, height);
 }
 
 Color DesignColorOf(const Workbench& wb, int i, bool forHandles) {

@@ -59,6 +59,8 @@ struct DesignPictures {
 
     // A new size in pixels for all three areas.
     void resize(int width, int height, Color back);
+    // The background of the three design pictures.
+    void setBackColor(Color back);
 };
 
 }  // namespace quillane

@@ -6,6 +6,7 @@
 
 #include "design/design_drawing.h"
 #include "app/design_toolbar.h"
+#include "app/design_colors.h"
 #include "app/design_view.h"
 #include "app/grid_size.h"
 #include "app/polygon_commands.h"
@@ -91,6 +92,8 @@ void registerTransformCommands(MainWindow& frame) {
     frame.setCommand("mnuDesignClear", [&s, &host] { mnuDesignClear_Click(s.wb, host); });
     frame.setCommand("mnuDesignFlipHor", [&s] { mnuDesignFlipHor_Click(s.wb); });
     frame.setCommand("mnuDesignFlipVert", [&s] { mnuDesignFlipVert_Click(s.wb); });
+    frame.setCommand("mnuDesignColorsBack", [&frame, &s] { mnuDesignColorsBack_Click(s.wb, s.design, frame.host()); });
+    frame.setCommand("mnuDesignColorsAxes", [&frame, &s] { mnuDesignColorsAxes_Click(s.wb, s.design, frame.host()); });
     // Ctrl+Alt+G: Cancel leaves the grid as it was.
     frame.setCommand("DesignGridSize", [&frame, &s] {
         GridSizeDialog dialog(frame.host(), s.wb.GridX, s.wb.GridY, &frame);

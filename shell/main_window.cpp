@@ -207,6 +207,7 @@ void MainWindow::connectSettings() {
         const SettingsReadResult r = ReadSettingsFile(path, wb, screenTwips());
         flags.SettingsRead = r.SettingsRead;
         flags.SettingsInvalid = r.SettingsInvalid;
+        state_.design.setBackColor(wb.DesignBackColor);
         placeChildren();
     };
     settingsHooks_.TakeLiveSettings = [this](Workbench& wb) {

@@ -49,6 +49,8 @@ TEST_F(SettingsRestart, PlacesToolTipsColoursAndRecentFilesSurviveARestart) {
     item("mnuEditToolTips")->trigger();
     wb().FractalBackColor = 0x00FFEEDD;
     wb().FunctionColor[4] = 12345;
+    host.colors.push_back(RGB(230, 210, 150));
+    item("mnuDesignColorsBack")->trigger();
     exitProgram();
 
     open("", "1.2", ini());
@@ -62,6 +64,10 @@ TEST_F(SettingsRestart, PlacesToolTipsColoursAndRecentFilesSurviveARestart) {
     EXPECT_FALSE(item("mnuEditToolTips")->isChecked());
     EXPECT_EQ(wb().FractalBackColor, 0x00FFEEDDu);
     EXPECT_EQ(wb().FunctionColor[4], 12345u);
+    // The design window comes back on its background.
+    EXPECT_EQ(wb().DesignBackColor, RGB(230, 210, 150));
+    const RasterSurface& design = frame->state().design.picdesign;
+    EXPECT_EQ(design.pixel(design.width() - 2, 1), RGB(230, 210, 150));
     ASSERT_EQ(wb().RecentFileCount, 1);
     EXPECT_EQ(wb().RecentFiles[0], list());
     EXPECT_TRUE(item("mnuMRU(0)")->isVisible());
