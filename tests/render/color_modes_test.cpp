@@ -18,9 +18,13 @@
 #include "core/unit_square_ifs.h"
 #include "render/color_stealing.h"
 #include "render/play_game.h"
+#include "tests/render/gradient_formula.h"
 
 namespace quillane {
 namespace {
+
+using testing::FormulaGradientColor;
+using testing::FormulaGradientMix;
 
 constexpr uint64_t Seed = 11;
 
@@ -91,23 +95,6 @@ std::vector<Plotted> replay(const Game& g, int points, bool extraDraw) {
     return out;
 }
 
-Color mix(Color first, Color second, double f) {
-    auto ch = [f](int a, int b) {
-        const double v = std::floor(a + (b - a) * f);
-        return static_cast<int>(v < 0 ? 0 : v > 255 ? 255 : v);
-    };
-    return RGB(ch(RedOf(first), RedOf(second)), ch(GreenOf(first), GreenOf(second)),
-               ch(BlueOf(first), BlueOf(second)));
-}
-
-Color lookup(const GradientColors& g, double t) {
-    const int c = g.GradientColorCount;
-    const int k = static_cast<int>(std::floor(0.99999 * (c - 1) * t));
-    double f = (c - 1) * t - k;
-    f = f < 0 ? 0 : f > 1 ? 1 : f;
-    return mix(g.picColors[k], g.picColors[k + 1], f);
-}
-
 // Replays the points into a picture of the game's size and compares every pixel. `colorOf` gives
 // nothing where a point leaves the pixel as it is.
 void expectPicture(const Game& g, const std::vector<Plotted>& pts,
@@ -142,7 +129,7 @@ TEST(ColorModes, HeightPixelsFollowTheGradientOfY) {
     g.play(20000);
     const GradientColors grad = DefaultGradient();
     expectPicture(g, replay(g, 20000, false), [&](const Plotted& p) {
-        return lookup(grad, std::min(std::fabs((p.y - 0.0) / 1.0), 1.0));
+        return FormulaGradientColor(grad, std::min(std::fabs((p.y - 0.0) / 1.0), 1.0));
     });
 }
 
@@ -153,7 +140,7 @@ TEST(ColorModes, WidthPixelsFollowTheGradientOfXWithinTheAttractorBounds) {
     g.play(20000);
     const GradientColors grad = DefaultGradient();
     expectPicture(g, replay(g, 20000, false), [&](const Plotted& p) {
-        return lookup(grad, std::min(std::fabs((p.x - 0.25) / 0.5), 1.0));
+        return FormulaGradientColor(grad, std::min(std::fabs((p.x - 0.25) / 0.5), 1.0));
     });
 }
 
@@ -165,7 +152,7 @@ TEST(ColorModes, RadialPixelsUseTheLargerHalfSide) {
     const GradientColors grad = g.wb.Gradient;
     expectPicture(g, replay(g, 20000, false), [&](const Plotted& p) {
         const double dx = p.x - 0.5, dy = p.y - 0.4;
-        return lookup(grad, std::min(std::sqrt(dx * dx + dy * dy) / 0.5, 1.0));
+        return FormulaGradientColor(grad, std::min(std::sqrt(dx * dx + dy * dy) / 0.5, 1.0));
     });
 }
 
@@ -182,7 +169,7 @@ TEST(ColorModes, FixedPointPixelsCompareNearestAndFarthestFixedPoint) {
             lo = std::min(lo, d);
             hi = std::max(hi, d);
         }
-        return lookup(grad, std::sqrt(lo) / std::sqrt(hi));
+        return FormulaGradientColor(grad, std::sqrt(lo) / std::sqrt(hi));
     });
 }
 
@@ -210,7 +197,7 @@ TEST(ColorModes, VisitPixelsFollowTheCountOfTheirCell) {
         highest = std::max(highest, h);
         for (int k = 1; k <= 6; ++k)
             if (h <= T[k])
-                return mix(grad.picColors[k - 1], grad.picColors[k], (h - T[k - 1]) / (T[k] - T[k - 1]));
+                return FormulaGradientMix(grad.picColors[k - 1], grad.picColors[k], (h - T[k - 1]) / (T[k] - T[k - 1]));
         return grad.picColors[6];
     });
     EXPECT_GT(highest, 30);  // the last colour is reached
@@ -356,7 +343,7 @@ TEST(VisitCounts, SixteenBitCounterWrapsAt32767) {
     const Color wrapped = v.plainColor(0.35f, 0.45f);
     EXPECT_EQ(table[3 + 1000 * 4], -32768);
     // h = -32768 <= T(1) = 5: between colours 0 and 1 at f = -32768 / 5, channels held to 0..255.
-    EXPECT_EQ(wrapped, mix(grad.picColors[0], grad.picColors[1], -32768.0 / 5));
+    EXPECT_EQ(wrapped, FormulaGradientMix(grad.picColors[0], grad.picColors[1], -32768.0 / 5));
     EXPECT_EQ(wrapped, RGB(255, 0, 0));
 }
 
@@ -371,7 +358,7 @@ TEST(VisitCounts, OutsideTheWindowIsColourZeroAndUncountedOnTheBoundIsInside) {
     EXPECT_EQ(sum, 0);
     v.plainColor(1.0f, 1.0f);  // on the bound: cell (10, 10), still inside the table
     EXPECT_EQ(table[10 + 1000 * 10], 1);
-    EXPECT_EQ(v.plainColor(0.0f, 0.0f), mix(grad.picColors[0], grad.picColors[1], 1.0 / 5));
+    EXPECT_EQ(v.plainColor(0.0f, 0.0f), FormulaGradientMix(grad.picColors[0], grad.picColors[1], 1.0 / 5));
 }
 
 TEST(VisitCounts, TheTileLoopIgnoresPointsOutsideTheTable) {
@@ -393,7 +380,7 @@ TEST(VisitCounts, ThreeColoursUseTheirOwnThresholdsAndKeepTheHiddenOnes) {
     GradientColors grad = DefaultGradient();
     grad.GradientColorCount = 3;
     VisitCounter v(table, {0, 1, 0, 1}, 10, grad);
-    EXPECT_EQ(v.colorOfCount(7), mix(grad.picColors[1], grad.picColors[2], 2.0 / 5));
+    EXPECT_EQ(v.colorOfCount(7), FormulaGradientMix(grad.picColors[1], grad.picColors[2], 2.0 / 5));
     EXPECT_EQ(v.colorOfCount(11), grad.picColors[2]);  // past T(2): the last colour in use
     EXPECT_EQ(grad.txtCount[5], "25");
 }
@@ -406,7 +393,7 @@ TEST(GradientModes, TEqualToOneGivesTheLastColour) {
     EXPECT_EQ(GradientLookup(g, 0.0), g.picColors[0]);
     GradientColors two = g;
     two.GradientColorCount = 2;
-    EXPECT_EQ(GradientLookup(two, 0.5), mix(g.picColors[0], g.picColors[1], 0.5));
+    EXPECT_EQ(GradientLookup(two, 0.5), FormulaGradientMix(g.picColors[0], g.picColors[1], 0.5));
 }
 
 TEST(GradientModes, ACountOfZeroIsTakenAsSeven) {

@@ -11,9 +11,13 @@
 #include "core/scripted_host.h"
 #include "render/color_modes.h"
 #include "render/deterministic.h"
+#include "tests/render/gradient_formula.h"
 
 namespace quillane {
 namespace {
+
+using testing::FormulaGradientColor;
+using testing::FormulaGradientMix;
 
 constexpr int Side = 48;
 constexpr Color Ink = RGB(9, 9, 9);
@@ -97,24 +101,10 @@ struct Level {
     }
 };
 
-Color mix(Color first, Color second, double f) {
-    auto ch = [f](int a, int b) { return static_cast<int>(std::floor(a + (b - a) * f)); };
-    return RGB(ch(RedOf(first), RedOf(second)), ch(GreenOf(first), GreenOf(second)),
-               ch(BlueOf(first), BlueOf(second)));
-}
-
-Color lookup(const GradientColors& g, double t) {
-    const int c = g.GradientColorCount;
-    const int k = static_cast<int>(std::floor(0.99999 * (c - 1) * t));
-    double f = (c - 1) * t - k;
-    f = f < 0 ? 0 : f > 1 ? 1 : f;
-    return mix(g.picColors[k], g.picColors[k + 1], f);
-}
-
 TEST(DeterministicColorModes, HeightColoursEachImageAtItsPlace) {
     Level l(HeightColorMode);
     const auto want = l.expected(-1, [&](float, float y) {
-        return lookup(l.wb.Gradient, std::min(std::fabs(static_cast<double>(y)), 1.0));
+        return FormulaGradientColor(l.wb.Gradient, std::min(std::fabs(static_cast<double>(y)), 1.0));
     });
     Iterate(l.wb, l.pics, l.host, -1);
     l.expectLevel(want, 4);
@@ -123,7 +113,7 @@ TEST(DeterministicColorModes, HeightColoursEachImageAtItsPlace) {
 TEST(DeterministicColorModes, WidthColoursEachImageAtItsPlace) {
     Level l(WidthColorMode);
     const auto want = l.expected(-1, [&](float x, float) {
-        return lookup(l.wb.Gradient, std::min(std::fabs(static_cast<double>(x)), 1.0));
+        return FormulaGradientColor(l.wb.Gradient, std::min(std::fabs(static_cast<double>(x)), 1.0));
     });
     Iterate(l.wb, l.pics, l.host, -1);
     l.expectLevel(want, 4);
@@ -133,7 +123,7 @@ TEST(DeterministicColorModes, RadialColoursEachImageAtItsPlace) {
     Level l(RadialColorMode);
     const auto want = l.expected(-1, [&](float x, float y) {
         const double dx = x - 0.5, dy = y - 0.5;
-        return lookup(l.wb.Gradient, std::min(std::sqrt(dx * dx + dy * dy) / 0.5, 1.0));
+        return FormulaGradientColor(l.wb.Gradient, std::min(std::sqrt(dx * dx + dy * dy) / 0.5, 1.0));
     });
     Iterate(l.wb, l.pics, l.host, -1);
     l.expectLevel(want, 4);
@@ -149,7 +139,7 @@ TEST(DeterministicColorModes, FixedPointsColourEachImageAtItsPlace) {
             lo = std::min(lo, d);
             hi = std::max(hi, d);
         }
-        return lookup(l.wb.Gradient, std::sqrt(lo) / std::sqrt(hi));
+        return FormulaGradientColor(l.wb.Gradient, std::sqrt(lo) / std::sqrt(hi));
     });
     Iterate(l.wb, l.pics, l.host, -1);
     l.expectLevel(want, 4);
@@ -180,7 +170,7 @@ TEST(DeterministicColorModes, ModeSevenDrawsARandomStripForEveryImage) {
 TEST(DeterministicColorModes, ADigitKeyAppliesOneMapInAGradientMode) {
     Level l(WidthColorMode);
     const auto want = l.expected(1, [&](float x, float) {
-        return lookup(l.wb.Gradient, std::min(std::fabs(static_cast<double>(x)), 1.0));
+        return FormulaGradientColor(l.wb.Gradient, std::min(std::fabs(static_cast<double>(x)), 1.0));
     });
     Iterate(l.wb, l.pics, l.host, 1);
     l.expectLevel(want, 3);
