@@ -1,5 +1,6 @@
 #include "core/settings_file.h"
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -125,6 +126,12 @@ void correctPlaces(Workbench& wb, const WindowPlace& frame) {
         value = replacement;
         wb.SettingsChanged = true;
     };
+    // A size no screen holds (a hand-edited file) would make windows the toolkit cannot allocate:
+    // no window is kept larger than the frame, nor of a negative size.
+    for (WindowPlace* w : {&p.functions, &p.fractal, &p.design, &p.preview, &p.colorStealing}) {
+        if (w->width < 0 || w->width > frame.width) fix(w->width, std::clamp(w->width, 0, frame.width));
+        if (w->height < 0 || w->height > frame.height) fix(w->height, std::clamp(w->height, 0, frame.height));
+    }
     if (beyondWidth(p.functions, frame)) fix(p.functions.left, 0);
     if (beyondHeight(p.functions, frame)) fix(p.functions.top, 0);
     if (beyondWidth(p.fractal, frame))

@@ -208,6 +208,24 @@ TEST(SettingsFile, AWindowBeyondTheFrameComesBackIntoIt) {
     EXPECT_EQ(wb.Windows.design.width, 5800);
 }
 
+TEST(SettingsFile, AHugeOrNegativeWindowSizeIsHeldToTheFrame) {
+    Workbench written = changedSettings();
+    written.Windows.functions = {-2000000000, 0, 2000000000, 2000000000};
+    written.Windows.design = {100, 100, -500, 2147483647};
+    Workbench wb;
+    const WindowPlace frame{0, 0, 19200, 14400};
+    EXPECT_FALSE(readText(SettingsText(written), wb, frame).SettingsInvalid);
+    EXPECT_TRUE(wb.SettingsChanged);
+    EXPECT_EQ(wb.Windows.functions.width, 19200);
+    EXPECT_EQ(wb.Windows.functions.height, 14400);
+    EXPECT_EQ(wb.Windows.functions.left, -2000000000);  // a negative place is kept as it is
+    EXPECT_EQ(wb.Windows.design.width, 0);
+    EXPECT_EQ(wb.Windows.design.height, 14400);
+    const WindowPlace e = MainWindowsExtent(wb.Windows);
+    EXPECT_LE(e.width, 2 * 19200);
+    EXPECT_LE(e.height, 2 * 14400);
+}
+
 TEST(SettingsFile, AWindowInsideTheFrameChangesNothing) {
     Workbench wb;
     readText(SettingsText(changedSettings()), wb);
