@@ -2,6 +2,8 @@
 // What the windows of the program share: the workbench and the pictures of the fractal and design windows.
 #include <array>
 
+#include "app/generator_run.h"
+#include "app/preview_commands.h"
 #include "core/gradient_colors.h"
 #include "core/workbench.h"
 #include "design/design_pictures.h"
@@ -15,6 +17,9 @@ struct AppState {
     DesignPictures design;
     // The seven default colours of the gradient window; a loaded gradient file becomes the default.
     std::array<Color, GradientColorSlots> GradientDefaults = DefaultGradient().picColors;
+    // The generator window that is open, and what its Cancel restores.
+    GeneratorRun Generator;
+    PreviewState Preview;
 };
 
 }  // namespace quillane

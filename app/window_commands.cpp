@@ -29,7 +29,8 @@ void mnuNames_Click(AppState& s, Host& host, const ListDialogs& dialogs, int ind
     if (index >= 5) {
         if (mnuNamesEntry_Click(s.wb, s.pics, host, index)) DesignScale(s.wb, s.design);
     } else if (index != 4) {
-        mnuNames_Click(s.wb, host, dialogs, index);
+        const bool stored = mnuNames_Click(s.wb, host, dialogs, index);
+        if (stored && (index == 0 || index == 1)) KeepGeneratorBuild(s.Generator);
     }
 }
 

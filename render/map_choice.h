@@ -23,12 +23,14 @@ class MapChoice {
     int forDraw(double u) const { return table_[static_cast<size_t>(std::lrint(u * Steps))]; }
     // The map for the draw bits / 2^32, the same as forDraw(bits * 2^-32): the product
     // bits * 10000 / 2^32 is rounded half to even in integers.
-    int forBits(uint32_t bits) const {
+    int forBits(uint32_t bits) const { return table_[StepOf(bits)]; }
+    // k of the draw bits / 2^32 rounded to 4 decimals (k / 10000), in integers.
+    static uint32_t StepOf(uint32_t bits) {
         const uint64_t t = static_cast<uint64_t>(bits) * Steps;
         uint32_t k = static_cast<uint32_t>(t >> 32);
         const uint32_t rest = static_cast<uint32_t>(t);
         k += static_cast<uint32_t>(rest > 0x80000000u) | (static_cast<uint32_t>(rest == 0x80000000u) & k);
-        return table_[k];
+        return k;
     }
     // forBits in a few operations: a guide table on the top bits gives the map at the start of the
     // bucket, and the bounds (the first draw of each next map) finish the search.

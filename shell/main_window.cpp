@@ -1,4 +1,5 @@
 #include "shell/main_window.h"
+#include "shell/preview_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -93,6 +94,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterPrintCommands(*this);
     RegisterHelpCommands(*this);
     RegisterColorCommands(*this);
+    RegisterPreviewCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
@@ -316,6 +318,7 @@ void MainWindow::refreshWindows() {
     RedrawDesignIfChanged(state_.wb, state_.design);
     design_->refresh();
     RefreshColorWindows(*this);
+    RefreshPreviewWindow(*this);
 }
 
 QMdiSubWindow* MainWindow::childWindow(int index) const {
