@@ -1,16 +1,15 @@
 #include "app/design_keys.h"
 
-#include "app/chaos_mouse.h"
-
+#include <algorithm>
 #include <optional>
 
-#include <algorithm>
-
-#include "design/design_drawing.h"
-#include "app/design_view.h"
-#include "app/polygon_commands.h"
-#include "app/fractal_view.h"
+#include "app/chaos_mouse.h"
+#include "app/design_picture_commands.h"
 #include "app/design_selection.h"
+#include "app/design_view.h"
+#include "app/fractal_view.h"
+#include "app/polygon_commands.h"
+#include "design/design_drawing.h"
 
 namespace quillane {
 
@@ -120,14 +119,17 @@ bool DesignDigitKey(Workbench& wb, DesignPictures& d, int KeyCode, int Shift) {
 }
 
 bool DesignKeyDown(Workbench& wb, DesignPictures& d, int KeyCode, int Shift, bool Repeat) {
+    if (DesignPictureKeyDown(wb, d, KeyCode, Shift)) return true;
     if (KeyCode == KeyEscape27 && wb.MapSelected && !d.Poly.PolygonMode) {
         DeselectDesign(wb, d);
         return true;
     }
+    if (KeyCode == KeyEscape27 && LiftDesignPicture(wb, d)) return true;
     if (viewKey(wb, d, KeyCode, Shift)) return true;
     if (Shift == ShiftMaskCtrl && toggleKey(wb, d, KeyCode)) return true;
     if (gridKey(wb, d, KeyCode)) return true;
-    if (d.Poly.PolygonMode) return (Shift & ~ShiftMaskShift) == 0 && PolygonModeKey(wb, d, static_cast<char>(KeyCode), Repeat);
+    if (d.Poly.PolygonMode)
+        return (Shift & ~ShiftMaskShift) == 0 && PolygonModeKey(wb, d, static_cast<char>(KeyCode), Repeat);
     if (wb.DesignMode == 0) return DesignDigitKey(wb, d, KeyCode, Shift);
     return false;
 }

@@ -8,6 +8,7 @@
 #include "core/initial_polygons.h"
 #include "core/workbench.h"
 #include "design/polygon_image.h"
+#include "render/fractal_pictures.h"
 #include "render/raster_surface.h"
 
 namespace quillane {
@@ -53,6 +54,14 @@ struct DesignPictures {
         DesignPolygon polygon;
         bool operator==(const Shown&) const = default;
     } LastShown;
+
+    // A picture behind the design: it floats in picPaste over picdesign until placed, then it is
+    // picdesign's picture. picImagePaste keeps it at its own size.
+    RasterSurface picPaste;
+    RasterSurface picImagePaste;
+    FloatingPicture Floating;
+    bool PastePlaced = false;     // the floating picture was placed (a drag clears it)
+    bool PictureInPlace = false;  // a placed picture lies behind the design
 
     // The preview window's Draw, when the frame has one.
     std::function<void()> DrawPreview;

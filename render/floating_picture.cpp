@@ -40,9 +40,9 @@ void paintAt(RasterSurface& dest, const RasterSurface& picture, double x, double
     }
 }
 
-const char* const PasteDataMessages[] = {"Cannot evaluate expression for x  ", "Cannot evaluate expression for y  ",
-                                         "Cannot evaluate expression for weight  ",
-                                         "Cannot evaluate expression for height  "};
+const char* const PasteDataMessages[] = {
+    "Cannot evaluate expression for x  ", "Cannot evaluate expression for y  ",
+    "Cannot evaluate expression for weight  ", "Cannot evaluate expression for height  "};
 
 bool evaluates(const std::string& text, double& value) {
     Evaluator ev;
@@ -54,36 +54,63 @@ bool evaluates(const std::string& text, double& value) {
 
 }  // namespace
 
-void PicPasteResize(FractalPictures& pics) {
-    FloatingPicture& f = pics.Floating;
+PasteArea FractalPasteArea(FractalPictures& pics) {
+    return {&pics.picfractal, &pics.picPaste, &pics.picImagePaste, &pics.Floating, &pics.picCoord};
+}
+
+void PicPasteResize(const PasteArea& a) {
+    FloatingPicture& f = *a.Floating;
     f.Width = std::max(f.Width, 1);
     f.Height = std::max(f.Height, 1);
-    pics.picPaste = stretched(pics.picImagePaste, f.Width, f.Height);
+    *a.picPaste = stretched(*a.picImagePaste, f.Width, f.Height);
+}
+
+void PicPasteResize(FractalPictures& pics) {
+    PicPasteResize(FractalPasteArea(pics));
+}
+
+void PasteTo(const PasteArea& a) {
+    const RasterSurface& s = *a.area;
+    const RasterSurface& image = *a.picImagePaste;
+    const double sx = std::abs(s.pixelScaleX()), sy = std::abs(s.pixelScaleY());
+    const double W = std::max(s.width(), 1) / sx, H = std::max(s.height(), 1) / sy;
+    const double w = std::max(image.width(), 1) / sx, h = std::max(image.height(), 1) / sy;
+    double width = W, height = H;
+    if (w <= W && h <= H) {
+        width = w;
+        height = h;
+    } else if (w < h) {
+        width = (w / h) * W;
+    } else if (h < w) {
+        height = (h / w) * H;
+    }
+    FloatingPicture& f = *a.Floating;
+    f.Width = std::max(1, static_cast<int>(std::lround(width * sx)));
+    f.Height = std::max(1, static_cast<int>(std::lround(height * sy)));
+    f.Left = (s.width() - f.Width) / 2;
+    f.Top = (s.height() - f.Height) / 2;
+    f.Visible = true;
+    PicPasteResize(a);
+    *a.picCoord = PasteCornersText(a);
 }
 
 void FloatPicture(FractalPictures& pics, const RasterSurface& image) {
     pics.picImagePaste = RasterSurface(image.width(), image.height(), image.backColor());
     pics.picImagePaste.takeImage(image);
-    const int side = std::max(pics.picfractal.width(), 1);
-    const int rows = std::max(pics.picfractal.height(), 1);
-    const double shrink = std::min({1.0, static_cast<double>(side) / std::max(image.width(), 1),
-                                    static_cast<double>(rows) / std::max(image.height(), 1)});
-    FloatingPicture& f = pics.Floating;
-    f.Width = std::max(1, static_cast<int>(std::lround(image.width() * shrink)));
-    f.Height = std::max(1, static_cast<int>(std::lround(image.height() * shrink)));
-    f.Left = (side - f.Width) / 2;
-    f.Top = (rows - f.Height) / 2;
-    f.Visible = true;
-    PicPasteResize(pics);
+    PasteTo(FractalPasteArea(pics));
+}
+
+void FloatingOrigin(const PasteArea& a, double& x, double& y) {
+    worldOfPixel(*a.area, a.Floating->Left, a.Floating->Top, x, y);
 }
 
 void FloatingOrigin(const FractalPictures& pics, double& x, double& y) {
     worldOfPixel(pics.picfractal, pics.Floating.Left, pics.Floating.Top, x, y);
 }
 
-std::string PasteCornersText(const FractalPictures& pics) {
-    const RasterSurface& s = pics.picfractal;
-    const FloatingPicture& f = pics.Floating;
+namespace {
+
+std::string cornersText(const RasterSurface& s, const FloatingPicture& f) {
     // Corners are the outer edges of the corner pixels.
     const double left = s.scaleLeft() + f.Left / s.pixelScaleX();
     const double top = s.scaleTop() + f.Top / s.pixelScaleY();
@@ -91,6 +118,16 @@ std::string PasteCornersText(const FractalPictures& pics) {
     const double bottom = s.scaleTop() + (f.Top + f.Height) / s.pixelScaleY();
     return "(" + Format(left, "0.000") + "," + Format(top, "0.000") + ") (" + Format(right, "0.000") + "," +
            Format(bottom, "0.000") + ")";
+}
+
+}  // namespace
+
+std::string PasteCornersText(const PasteArea& a) {
+    return cornersText(*a.area, *a.Floating);
+}
+
+std::string PasteCornersText(const FractalPictures& pics) {
+    return cornersText(pics.picfractal, pics.Floating);
 }
 
 void PlaceFractalSelection(Workbench& wb, FractalPictures& pics) {
@@ -165,14 +202,19 @@ FloatingPicture DragFloating(const FloatingPicture& start, int handle, int dx, i
     return f;
 }
 
+void SetFloatingRect(const PasteArea& a, const FloatingPicture& rect) {
+    FloatingPicture& f = *a.Floating;
+    const bool resized = rect.Width != f.Width || rect.Height != f.Height;
+    f.Left = rect.Left;
+    f.Top = rect.Top;
+    f.Width = rect.Width;
+    f.Height = rect.Height;
+    if (resized) PicPasteResize(a);
+    *a.picCoord = PasteCornersText(a);
+}
+
 void SetFloatingRect(FractalPictures& pics, const FloatingPicture& rect) {
-    const bool resized = rect.Width != pics.Floating.Width || rect.Height != pics.Floating.Height;
-    pics.Floating.Left = rect.Left;
-    pics.Floating.Top = rect.Top;
-    pics.Floating.Width = rect.Width;
-    pics.Floating.Height = rect.Height;
-    if (resized) PicPasteResize(pics);
-    pics.picCoord = PasteCornersText(pics);
+    SetFloatingRect(FractalPasteArea(pics), rect);
 }
 
 std::string CheckPasteData(const PasteDataText& t) {
@@ -184,9 +226,9 @@ std::string CheckPasteData(const PasteDataText& t) {
     return {};
 }
 
-PasteDataText PasteDataFor(const FractalPictures& pics, int corner) {
-    const RasterSurface& s = pics.picfractal;
-    const FloatingPicture& f = pics.Floating;
+PasteDataText PasteDataFor(const PasteArea& a, int corner) {
+    const RasterSurface& s = *a.area;
+    const FloatingPicture& f = *a.Floating;
     const double left = s.scaleLeft() + f.Left / s.pixelScaleX();
     const double top = s.scaleTop() + f.Top / s.pixelScaleY();
     const double width = f.Width / std::abs(s.pixelScaleX());
@@ -201,21 +243,29 @@ PasteDataText PasteDataFor(const FractalPictures& pics, int corner) {
     return t;
 }
 
-void ApplyPasteData(FractalPictures& pics, const PasteDataText& t) {
+void ApplyPasteData(const PasteArea& a, const PasteDataText& t) {
     double x = 0, y = 0, width = 0, height = 0;
     if (!evaluates(t.txtX, x) || !evaluates(t.txtY, y) || !evaluates(t.txtWidth, width) ||
         !evaluates(t.txtHeight, height))
         return;
-    const RasterSurface& s = pics.picfractal;
+    const RasterSurface& s = *a.area;
     const double sx = std::abs(s.pixelScaleX()), sy = std::abs(s.pixelScaleY());
     if (t.optCorner == 1 || t.optCorner == 3) x -= width;
     if (t.optCorner == 2 || t.optCorner == 3) y += height;
-    FloatingPicture rect = pics.Floating;
+    FloatingPicture rect = *a.Floating;
     rect.Left = static_cast<int>(std::lround((x - s.scaleLeft()) * s.pixelScaleX()));
     rect.Top = static_cast<int>(std::lround((y - s.scaleTop()) * s.pixelScaleY()));
     rect.Width = std::max(1, static_cast<int>(std::lround(width * sx)));
     rect.Height = std::max(1, static_cast<int>(std::lround(height * sy)));
-    SetFloatingRect(pics, rect);
+    SetFloatingRect(a, rect);
+}
+
+PasteDataText PasteDataFor(FractalPictures& pics, int corner) {
+    return PasteDataFor(FractalPasteArea(pics), corner);
+}
+
+void ApplyPasteData(FractalPictures& pics, const PasteDataText& t) {
+    ApplyPasteData(FractalPasteArea(pics), t);
 }
 
 bool BackgroundPictureAllowed(const Workbench& wb) {

@@ -20,14 +20,33 @@ inline constexpr int HandleMiddle = -1;
 inline constexpr int HandleNone = -2;
 inline constexpr int GrabHandleSize = 5;
 
+// A picture area with a picture floating over it: the fractal window's picfractal or the design
+// window's picdesign, each with its own picPaste, picImagePaste and coordinate line.
+struct PasteArea {
+    const RasterSurface* area = nullptr;
+    RasterSurface* picPaste = nullptr;
+    RasterSurface* picImagePaste = nullptr;
+    FloatingPicture* Floating = nullptr;
+    std::string* picCoord = nullptr;
+};
+PasteArea FractalPasteArea(FractalPictures& pics);
+
 // picPaste from picImagePaste, stretched to the floating size.
+void PicPasteResize(const PasteArea& a);
 void PicPasteResize(FractalPictures& pics);
+// PasteTo: picImagePaste floats over the area, centred. With the area W by H and the picture w by h
+// in world units: a picture that fits keeps its size; else the longer of w and h gives the size,
+// height H and width (w / h) W when w is below h, width W and height (h / w) H when h is below w,
+// the whole area when they are equal. It is w against h that decides, not the area's proportions.
+void PasteTo(const PasteArea& a);
 // Takes `image` as the floating picture: at its own size when it fits the fractal picture, else
 // shrunk to fit with its proportions kept; centred.
 void FloatPicture(FractalPictures& pics, const RasterSurface& image);
 // The floating picture's corners (left, top) and (right, bottom) in world units, for picCoord.
+std::string PasteCornersText(const PasteArea& a);
 std::string PasteCornersText(const FractalPictures& pics);
 // The world position of the floating picture's top left pixel.
+void FloatingOrigin(const PasteArea& a, double& x, double& y);
 void FloatingOrigin(const FractalPictures& pics, double& x, double& y);
 
 // Ends the floating state: the picture goes into picfractal, picImage2 and picImage3 and stays there
@@ -46,6 +65,7 @@ int GrabHandleAt(const FloatingPicture& f, int x, int y);
 // moves the edges it sits on. A picture is never less than one pixel wide or high.
 FloatingPicture DragFloating(const FloatingPicture& start, int handle, int dx, int dy);
 // Sets the floating rectangle and rebuilds picPaste when the size changed.
+void SetFloatingRect(const PasteArea& a, const FloatingPicture& rect);
 void SetFloatingRect(FractalPictures& pics, const FloatingPicture& rect);
 
 // frmPasteData: a corner (0 top left, 1 top right, 2 bottom left, 3 bottom right) and a size, all in
@@ -57,8 +77,10 @@ struct PasteDataText {
 // The message that keeps the dialog open, or empty when the values are good.
 std::string CheckPasteData(const PasteDataText& t);
 // The dialog's boxes for the floating picture as it stands.
-PasteDataText PasteDataFor(const FractalPictures& pics, int corner);
+PasteDataText PasteDataFor(const PasteArea& a, int corner);
+PasteDataText PasteDataFor(FractalPictures& pics, int corner);
 // Moves and sizes the floating picture by checked values.
+void ApplyPasteData(const PasteArea& a, const PasteDataText& t);
 void ApplyPasteData(FractalPictures& pics, const PasteDataText& t);
 
 // Whether a background picture may be loaded or pasted now.

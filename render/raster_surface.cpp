@@ -86,10 +86,14 @@ std::vector<PixelPoint> clipPolygon(std::vector<PixelPoint> v) {
     for (int side = 0; side < 4; ++side) {
         auto inside = [side](const PixelPoint& p) {
             switch (side) {
-                case 0: return p.col >= -FarPixel;
-                case 1: return p.col <= FarPixel;
-                case 2: return p.row >= -FarPixel;
-                default: return p.row <= FarPixel;
+                case 0:
+                    return p.col >= -FarPixel;
+                case 1:
+                    return p.col <= FarPixel;
+                case 2:
+                    return p.row >= -FarPixel;
+                default:
+                    return p.row <= FarPixel;
             }
         };
         auto cross = [side](const PixelPoint& p, const PixelPoint& q) {
@@ -363,9 +367,19 @@ RasterSurface::RasterSurface(int width, int height, Color back) : back_(back & 0
 }
 
 void RasterSurface::resize(int width, int height) {
+    const int oldWidth = width_, oldHeight = height_;
     width_ = std::max(width, 0);
     height_ = std::max(height, 0);
     pixels_.assign(static_cast<size_t>(width_) * height_, back_ | Opaque);
+    if (!picture_.empty()) {
+        // The picture stays at its pixel place; what the new size uncovers is background.
+        std::vector<uint32_t> kept(pixels_.size(), back_ | Opaque);
+        for (int r = 0; r < std::min(oldHeight, height_); ++r)
+            for (int c = 0; c < std::min(oldWidth, width_); ++c)
+                kept[static_cast<size_t>(r) * width_ + c] = picture_[static_cast<size_t>(r) * oldWidth + c];
+        picture_ = std::move(kept);
+        pixels_.assign(picture_.begin(), picture_.end());
+    }
     updateFactors();
 }
 
@@ -405,7 +419,10 @@ double RasterSurface::worldToPixelsY(double length) const {
 }
 
 void RasterSurface::clear() {
-    std::fill(pixels_.begin(), pixels_.end(), back_ | Opaque);
+    if (picture_.size() == pixels_.size())
+        std::copy(picture_.begin(), picture_.end(), pixels_.begin());
+    else
+        std::fill(pixels_.begin(), pixels_.end(), back_ | Opaque);
 }
 
 void RasterSurface::pset(double x, double y, Color c) {

@@ -51,6 +51,12 @@ class RasterSurface final : public DrawSurface {
     void paint(const RasterSurface& source, double x, double y, RasterOp op) override;
     void takeImage(const RasterSurface& source) override;
 
+    // A picture behind the drawing, at its pixel place: clear() shows it instead of the background
+    // colour. keepAsPicture takes the present pixels as that picture.
+    void keepAsPicture() { picture_.assign(pixels_.begin(), pixels_.end()); }
+    void removePicture() { picture_.clear(); }
+    bool hasPicture() const { return !picture_.empty(); }
+
     // World to pixel: column floor((x - left) * sx), row floor((y - top) * sy).
     // False when the position does not fit a 32-bit integer (or is NaN).
     bool toPixel(double x, double y, int64_t& column, int64_t& row) const {
@@ -89,6 +95,7 @@ class RasterSurface final : public DrawSurface {
     void updateFactors();
     int width_ = 0, height_ = 0;
     std::vector<uint32_t, PixelAllocator<uint32_t>> pixels_;
+    std::vector<uint32_t> picture_;  // the picture behind the drawing; empty: none
     double left_ = 0, top_ = 0, right_ = 0, bottom_ = 0;
     double sx_ = 0, sy_ = 0;
     bool scaleSet_ = false;  // until setScale, the scale follows the size in pixel units

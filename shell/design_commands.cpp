@@ -4,22 +4,24 @@
 #include <QLabel>
 #include <QMdiSubWindow>
 
-#include "design/design_drawing.h"
-#include "app/design_toolbar.h"
 #include "app/design_colors.h"
+#include "app/design_picture_commands.h"
+#include "app/design_toolbar.h"
 #include "app/design_view.h"
 #include "app/grid_size.h"
 #include "app/polygon_commands.h"
 #include "app/transform_commands.h"
 #include "app/transform_count_commands.h"
 #include "app/undo.h"
+#include "app/window_commands.h"
+#include "design/design_drawing.h"
 #include "shell/design_window.h"
 #include "shell/functions_window.h"
 #include "shell/grid_size_dialog.h"
 #include "shell/help_commands.h"
 #include "shell/main_window.h"
+#include "shell/paste_data_dialog.h"
 #include "shell/transform_dialogs_qt.h"
-#include "app/window_commands.h"
 
 namespace quillane {
 
@@ -92,8 +94,10 @@ void registerTransformCommands(MainWindow& frame) {
     frame.setCommand("mnuDesignClear", [&s, &host] { mnuDesignClear_Click(s.wb, host); });
     frame.setCommand("mnuDesignFlipHor", [&s] { mnuDesignFlipHor_Click(s.wb); });
     frame.setCommand("mnuDesignFlipVert", [&s] { mnuDesignFlipVert_Click(s.wb); });
-    frame.setCommand("mnuDesignColorsBack", [&frame, &s] { mnuDesignColorsBack_Click(s.wb, s.design, frame.host()); });
-    frame.setCommand("mnuDesignColorsAxes", [&frame, &s] { mnuDesignColorsAxes_Click(s.wb, s.design, frame.host()); });
+    frame.setCommand("mnuDesignColorsBack",
+                     [&frame, &s] { mnuDesignColorsBack_Click(s.wb, s.design, frame.host()); });
+    frame.setCommand("mnuDesignColorsAxes",
+                     [&frame, &s] { mnuDesignColorsAxes_Click(s.wb, s.design, frame.host()); });
     // Ctrl+Alt+G: Cancel leaves the grid as it was.
     frame.setCommand("DesignGridSize", [&frame, &s] {
         GridSizeDialog dialog(frame.host(), s.wb.GridX, s.wb.GridY, &frame);
@@ -129,7 +133,8 @@ void registerTransformCommands(MainWindow& frame) {
     });
     frame.setCommand("mnuDesignSwap", [&frame, &s] {
         if (s.wb.DrawingActive) return;
-        RunSwapDialog(s.wb, [&frame] { frame.refreshWindows(); }, &frame);
+        RunSwapDialog(
+            s.wb, [&frame] { frame.refreshWindows(); }, &frame);
     });
 }
 
@@ -146,8 +151,25 @@ void registerUndo(MainWindow& frame) {
 
 }  // namespace
 
+// The picture behind the design.
+void registerPictureCommands(MainWindow& frame) {
+    AppState& s = frame.state();
+    Host& host = frame.host();
+    frame.setCommand("mnuDesignLoadPicture", [&frame, &s, &host] {
+        showDesignWindow(frame);
+        mnuDesignLoadPicture_Click(s.wb, s.design, host);
+    });
+    frame.setCommand("mnuDesignClearPict", [&s] { ClearDesignPicture(s.wb, s.design); });
+    frame.setCommand("DesignPasteData", [&frame, &s, &host] {
+        if (!DesignPasteShowing(s.design)) return;
+        PasteDataDialog dialog(host, DesignPasteArea(s.design), &frame);
+        if (dialog.exec() == QDialog::Accepted) ApplyPasteData(DesignPasteArea(s.design), dialog.values());
+    });
+}
+
 void RegisterDesignCommands(MainWindow& frame) {
     registerPolygonCommands(frame);
+    registerPictureCommands(frame);
     registerViewCommands(frame);
     registerTransformCommands(frame);
     registerUndo(frame);

@@ -15,12 +15,14 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "core/numbers.h"
 #include "app/design_keys.h"
+#include "app/design_picture_commands.h"
 #include "app/design_view.h"
-#include "app/polygon_commands.h"
 #include "app/fractal_view.h"
+#include "app/polygon_commands.h"
+#include "core/numbers.h"
 #include "shell/design_tool_icons.h"
+#include "shell/floating_picture_widget.h"
 
 namespace quillane {
 
@@ -88,21 +90,40 @@ void DesignPicture::focusOutEvent(QFocusEvent* event) {
 int DesignKeyCodeOf(int qtKey, Qt::KeyboardModifiers modifiers) {
     const bool keypad = modifiers & Qt::KeypadModifier;
     switch (qtKey) {
-        case Qt::Key_Left: return KeyLeft;
-        case Qt::Key_Up: return KeyUp;
-        case Qt::Key_Right: return KeyRight;
-        case Qt::Key_Down: return KeyDown;
-        case Qt::Key_PageUp: return KeyPageUp;
-        case Qt::Key_PageDown: return KeyPageDown;
-        case Qt::Key_Home: return KeyHome;
-        case Qt::Key_Escape: return KeyEscape27;
-        case Qt::Key_Shift: return KeyShift16;
-        case Qt::Key_Control: return KeyCtrl17;
-        case Qt::Key_Alt: return KeyAlt18;
-        case Qt::Key_Plus: return keypad ? KeyPadAdd : KeyPlusMain;
-        case Qt::Key_Equal: return KeyPlusMain;
-        case Qt::Key_Minus: return keypad ? KeyPadSubtract : KeyMinusMain;
-        default: break;
+        case Qt::Key_Left:
+            return KeyLeft;
+        case Qt::Key_Up:
+            return KeyUp;
+        case Qt::Key_Right:
+            return KeyRight;
+        case Qt::Key_Down:
+            return KeyDown;
+        case Qt::Key_PageUp:
+            return KeyPageUp;
+        case Qt::Key_PageDown:
+            return KeyPageDown;
+        case Qt::Key_Home:
+            return KeyHome;
+        case Qt::Key_Escape:
+            return KeyEscape27;
+        case Qt::Key_Backspace:
+            return 8;
+        case Qt::Key_Delete:
+            return 46;
+        case Qt::Key_Shift:
+            return KeyShift16;
+        case Qt::Key_Control:
+            return KeyCtrl17;
+        case Qt::Key_Alt:
+            return KeyAlt18;
+        case Qt::Key_Plus:
+            return keypad ? KeyPadAdd : KeyPlusMain;
+        case Qt::Key_Equal:
+            return KeyPlusMain;
+        case Qt::Key_Minus:
+            return keypad ? KeyPadSubtract : KeyMinusMain;
+        default:
+            break;
     }
     if (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z) return 'A' + (qtKey - Qt::Key_A);
     if (qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) return '0' + (qtKey - Qt::Key_0);
@@ -150,10 +171,24 @@ DesignForm::DesignForm(AppState& state, QWidget* parent) : QWidget(parent), stat
     helpCard_ = new QLabel(this);
     helpCard_->setObjectName("frmShortcuts");
     helpCard_->setWindowFlags(Qt::ToolTip);
+    picPaste_ = new FloatingPictureWidget(DesignPasteArea(state_.design), picdesign_);
+    picPaste_->onChanged = [this] {
+        state_.design.PastePlaced = false;
+        picCoord_->setText(QString::fromStdString(state_.design.picCoord));
+    };
+    // The right button shows or hides the grab handles.
+    picPaste_->onPopupRequested = [this](QPoint) {
+        DesignPictures& d = state_.design;
+        d.Floating.ResizeHandles = !d.Floating.ResizeHandles;
+        state_.wb.Menu.setChecked("mnuPicPastePopUpResize", d.Floating.ResizeHandles);
+        picPaste_->sync();
+    };
     connect(picdesign_, &PictureWidget::mousePressed, this, &DesignForm::onMousePressed);
     connect(picdesign_, &PictureWidget::mouseMoved, this, &DesignForm::onMouseMoved);
     connect(picdesign_, &PictureWidget::mouseReleased, this,
-            [this](QPointF w, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint g) { onMouseReleased(w, b, m, g); });
+            [this](QPointF w, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint g) {
+                onMouseReleased(w, b, m, g);
+            });
     connect(picdesign_, &PictureWidget::keyPressed, this, [this](QKeyEvent* e) { handleKey(e); });
     connect(picdesign_, &DesignPicture::doubleClicked, this, &DesignForm::onDoubleClick);
     connect(picdesign_, &DesignPicture::focusLost, this, &DesignForm::onFocusLost);
@@ -174,7 +209,8 @@ void DesignForm::buildToolbar() {
         const bool help = button.key == std::string("help");
         connect(a, &QAction::triggered, this, [this, command, help] { runToolCommand(command, !help); });
         if (button.key == std::string("lines")) addDropDown(a, "mnuDesignLine", LineDropItems());
-        if (button.key == std::string("rotate left")) addDropDown(a, "DesignRotateLeftItem", RotateDropItems(true));
+        if (button.key == std::string("rotate left"))
+            addDropDown(a, "DesignRotateLeftItem", RotateDropItems(true));
         if (button.key == std::string("rotate right"))
             addDropDown(a, "DesignRotateRightItem", RotateDropItems(false));
     }
@@ -195,7 +231,8 @@ void DesignForm::focusPicture() {
 }
 
 // Item k of the drop-down runs the array command `command`(k); the button keeps its own click.
-void DesignForm::addDropDown(QAction* button, const std::string& command, const std::vector<ToolbarDropItem>& items) {
+void DesignForm::addDropDown(QAction* button, const std::string& command,
+                             const std::vector<ToolbarDropItem>& items) {
     auto* menu = new QMenu(this);
     menu->setObjectName(button->text());
     for (size_t k = 0; k < items.size(); ++k) {
@@ -213,13 +250,14 @@ void DesignForm::refresh() {
     const Workbench& wb = state_.wb;
     setWindowTitle(QString::fromStdString(wb.DesignCaption));
     const DesignPictures& d = state_.design;
-    if (picdesign_->surface() != &d.picdesign || picdesign_->size() != QSize(d.picdesign.width(), d.picdesign.height()))
+    if (picdesign_->surface() != &d.picdesign ||
+        picdesign_->size() != QSize(d.picdesign.width(), d.picdesign.height()))
         picdesign_->setSurface(&d.picdesign);
     picdesign_->update();
+    picPaste_->sync();
     picCoord_->setText(QString::fromStdString(d.picCoord));
     picTrans_->setText(QString::fromStdString(d.picTrans));
-    for (QAction* a : Toolbar1_->actions())
-        a->setEnabled(wb.menu(a->objectName().toStdString()).enabled);
+    for (QAction* a : Toolbar1_->actions()) a->setEnabled(wb.menu(a->objectName().toStdString()).enabled);
     if (onRefresh) onRefresh();
 }
 
@@ -283,8 +321,15 @@ void DesignForm::handleKey(QKeyEvent* event) {
         changed();
         return;
     }
+    if (event->key() == Qt::Key_P && (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) ==
+                                         (Qt::ControlModifier | Qt::AltModifier)) {
+        if (DesignPasteShowing(state_.design) && runCommand) runCommand("DesignPasteData");
+        changed();
+        return;
+    }
     if (code == KeyCtrl17 && !event->isAutoRepeat()) {
-        if (const auto cursor = CtrlCursor(state_.wb, state_.design, gesture_, true)) setDesignCursor(*cursor);
+        if (const auto cursor = CtrlCursor(state_.wb, state_.design, gesture_, true))
+            setDesignCursor(*cursor);
     }
     if (DesignKeyDown(state_.wb, state_.design, code, shift, event->isAutoRepeat()) ||
         GestureKeyDown(state_.wb, state_.design, gesture_, code, shift))
@@ -300,20 +345,35 @@ void DesignForm::keyReleaseEvent(QKeyEvent* event) {
     if (code == KeyCtrl17) shift &= ~ShiftMaskCtrl;
     if (code == KeyAlt18) shift &= ~ShiftMaskAlt;
     if (code == KeyCtrl17) {
-        if (const auto cursor = CtrlCursor(state_.wb, state_.design, gesture_, false)) setDesignCursor(*cursor);
+        if (const auto cursor = CtrlCursor(state_.wb, state_.design, gesture_, false))
+            setDesignCursor(*cursor);
     }
     if (GestureKeyUp(state_.wb, state_.design, gesture_, code, shift)) changed();
 }
 
 void DesignForm::setDesignCursor(DesignCursor cursor) {
     switch (cursor) {
-        case DesignCursor::Normal: picdesign_->setCursor(Qt::CrossCursor); break;
-        case DesignCursor::Move: picdesign_->setCursor(Qt::SizeAllCursor); break;
-        case DesignCursor::SizeNESW: picdesign_->setCursor(Qt::SizeBDiagCursor); break;
-        case DesignCursor::SizeNWSE: picdesign_->setCursor(Qt::SizeFDiagCursor); break;
-        case DesignCursor::SizeVertical: picdesign_->setCursor(Qt::SizeVerCursor); break;
-        case DesignCursor::SizeHorizontal: picdesign_->setCursor(Qt::SizeHorCursor); break;
-        case DesignCursor::Rotate: picdesign_->setCursor(rotationCursor()); break;
+        case DesignCursor::Normal:
+            picdesign_->setCursor(Qt::CrossCursor);
+            break;
+        case DesignCursor::Move:
+            picdesign_->setCursor(Qt::SizeAllCursor);
+            break;
+        case DesignCursor::SizeNESW:
+            picdesign_->setCursor(Qt::SizeBDiagCursor);
+            break;
+        case DesignCursor::SizeNWSE:
+            picdesign_->setCursor(Qt::SizeFDiagCursor);
+            break;
+        case DesignCursor::SizeVertical:
+            picdesign_->setCursor(Qt::SizeVerCursor);
+            break;
+        case DesignCursor::SizeHorizontal:
+            picdesign_->setCursor(Qt::SizeHorCursor);
+            break;
+        case DesignCursor::Rotate:
+            picdesign_->setCursor(rotationCursor());
+            break;
     }
 }
 
@@ -325,7 +385,7 @@ bool gesturesApply(const AppState& s) {
 }  // namespace
 
 void DesignForm::onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-    if (button != Qt::LeftButton || !gesturesApply(state_)) return;
+    if (button != Qt::LeftButton || !gesturesApply(state_) || DesignPasteShowing(state_.design)) return;
     setDesignCursor(DesignMouseDown(state_.wb, state_.design, gesture_, static_cast<float>(world.x()),
                                     static_cast<float>(world.y()), DesignShiftOf(modifiers)));
     changed();
@@ -354,6 +414,12 @@ void DesignForm::onMouseMoved(QPointF world, Qt::KeyboardModifiers modifiers) {
 void DesignForm::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
                                  QPoint global) {
     DesignPictures& d = state_.design;
+    // A click beside a floating picture places it, and does nothing more.
+    if (DesignPasteShowing(d)) {
+        PlaceDesignSelection(state_.wb, d);
+        changed();
+        return;
+    }
     // Not while drawing the polygon, whose menus are off, nor in the middle of a left-button drag.
     if (button == Qt::RightButton && gesturesApply(state_) && !gesture_.MouseIsDown) {
         if (popup) popup(global);
@@ -367,7 +433,8 @@ void DesignForm::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::Keyb
     }
     gesture_.MouseIsDown = false;
     if (!d.Poly.PolygonMode) return;
-    const bool snap = (modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier)) == Qt::ShiftModifier;
+    const bool snap =
+        (modifiers & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier)) == Qt::ShiftModifier;
     PolygonModeClick(state_.wb, d, static_cast<float>(world.x()), static_cast<float>(world.y()), snap);
     if (!d.Poly.RubberBandActive || d.Poly.PolygonPointCount == 0) picdesign_->setCursor(Qt::CrossCursor);
     changed();

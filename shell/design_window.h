@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "app/app_state.h"
 #include "app/design_gestures.h"
 #include "app/design_toolbar.h"
-#include "app/app_state.h"
 #include "shell/picture_widget.h"
 
 class QLabel;
@@ -31,6 +31,8 @@ class DesignPicture : public PictureWidget {
     void focusOutEvent(QFocusEvent* event) override;
 };
 
+class FloatingPictureWidget;
+
 class DesignForm : public QWidget {
     Q_OBJECT
   public:
@@ -47,6 +49,7 @@ class DesignForm : public QWidget {
     QToolBar* toolbar() const { return Toolbar1_; }
     QLabel* coordBox() const { return picCoord_; }
     QLabel* transBox() const { return picTrans_; }
+    FloatingPictureWidget* pastePicture() const { return picPaste_; }
     // Runs a command of the frame by its menu key (set by the frame).
     std::function<void(const std::string&)> runCommand;
     // Called after the window changed the state, to show it everywhere.
@@ -72,7 +75,8 @@ class DesignForm : public QWidget {
     void onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
     void onMouseMoved(QPointF world, Qt::KeyboardModifiers modifiers);
     void setDesignCursor(DesignCursor cursor);
-    void onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint global);
+    void onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
+                         QPoint global);
     void onDoubleClick();
     void onFocusLost();
     void showHelpCard(bool show);
@@ -85,6 +89,7 @@ class DesignForm : public QWidget {
     QLabel* picTrans_ = nullptr;
     QLabel* helpCard_ = nullptr;
     QWidget* picCGDesign_ = nullptr;
+    FloatingPictureWidget* picPaste_ = nullptr;
     bool toolBusy_ = false;  // a Toolbar1 command is running
     DesignGesture gesture_;
 };

@@ -6,17 +6,19 @@
 #include <QMdiSubWindow>
 #include <memory>
 
+#include "app/design_picture_commands.h"
+#include "app/deterministic_commands.h"
+#include "app/figure_commands.h"
 #include "core/initial_polygons.h"
 #include "render/deterministic.h"
 #include "render/initial_figures.h"
 #include "render/picture_figures.h"
 #include "render/scale.h"
+#include "shell/design_window.h"
 #include "shell/figure_dialogs.h"
 #include "shell/fractal_window.h"
 #include "shell/main_window.h"
 #include "shell/surface_image.h"
-#include "app/deterministic_commands.h"
-#include "app/figure_commands.h"
 
 namespace quillane {
 
@@ -48,8 +50,9 @@ void RegisterFigureCommands(MainWindow& frame) {
     s.pics.Det.ClipboardBitmap = [] { return ClipboardBitmap(); };
     Host& host = frame.host();
     for (int k = 0; k <= ClipboardFigure; ++k) {
-        frame.setCommand("mnuDrawAddFigure(" + std::to_string(k) + ")",
-                         [&s, &host, memory, k] { mnuDrawAddFigure_Click(s.wb, s.pics, host, memory->figs, k); });
+        frame.setCommand("mnuDrawAddFigure(" + std::to_string(k) + ")", [&s, &host, memory, k] {
+            mnuDrawAddFigure_Click(s.wb, s.pics, host, memory->figs, k);
+        });
     }
     frame.setCommand("mnuEditPaste", [&frame, &s, &host, memory] {
         if (s.wb.DrawingActive) return;
@@ -58,8 +61,13 @@ void RegisterFigureCommands(MainWindow& frame) {
             return;
         }
         QMdiSubWindow* active = frame.mdiArea()->activeSubWindow();
-        if (active && frame.fractalWindow() && active->widget() == frame.fractalWindow())
+        if (active && frame.fractalWindow() && active->widget() == frame.fractalWindow()) {
             PasteFractalFigure(s.wb, s.pics, host, memory->figs);
+        } else if (active && frame.designWindow() &&
+                   active->widget() == static_cast<QWidget*>(frame.designWindow())) {
+            const std::optional<RasterSurface> clipboard = ClipboardBitmap();
+            PasteDesignPicture(s.wb, s.design, clipboard ? &*clipboard : nullptr);
+        }
     });
     for (int k = 0; k <= 1; ++k)
         frame.setCommand("mnuDrawDetColorItems(" + std::to_string(k) + ")",

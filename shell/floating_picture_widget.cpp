@@ -31,8 +31,8 @@ Qt::CursorShape cursorFor(int handle) {
 
 }  // namespace
 
-FloatingPictureWidget::FloatingPictureWidget(FractalPictures& pics, QWidget* picture)
-    : QWidget(picture), pics_(pics) {
+FloatingPictureWidget::FloatingPictureWidget(PasteArea area, QWidget* picture)
+    : QWidget(picture), area_(area) {
     setObjectName("picPaste");
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -46,7 +46,7 @@ FloatingPictureWidget::FloatingPictureWidget(FractalPictures& pics, QWidget* pic
 }
 
 void FloatingPictureWidget::sync() {
-    const FloatingPicture& f = pics_.Floating;
+    const FloatingPicture& f = *area_.Floating;
     if (!f.Visible) {
         ants_.stop();
         hide();
@@ -63,7 +63,7 @@ void FloatingPictureWidget::sync() {
 
 void FloatingPictureWidget::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const RasterSurface& p = pics_.picPaste;
+    const RasterSurface& p = *area_.picPaste;
     if (p.width() > 0) {
         const QImage image(reinterpret_cast<const uchar*>(p.data()), p.width(), p.height(), p.width() * 4,
                            QImage::Format_RGBX8888);
@@ -77,7 +77,7 @@ void FloatingPictureWidget::paintEvent(QPaintEvent*) {
     painter.setPen(pen);
     painter.drawRect(0, 0, width() - 1, height() - 1);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    if (!pics_.Floating.ResizeHandles) return;
+    if (!area_.Floating->ResizeHandles) return;
     const int s = GrabHandleSize;
     const int xs[3] = {0, (width() - s) / 2, width() - s};
     const int ys[3] = {0, (height() - s) / 2, height() - s};
@@ -93,19 +93,19 @@ void FloatingPictureWidget::paintEvent(QPaintEvent*) {
 
 void FloatingPictureWidget::updateCursor(QPoint local) {
     const QPoint at = inPicture(local);
-    int handle = GrabHandleAt(pics_.Floating, at.x(), at.y());
-    if (!pics_.Floating.ResizeHandles) handle = HandleMiddle;
+    int handle = GrabHandleAt(*area_.Floating, at.x(), at.y());
+    if (!area_.Floating->ResizeHandles) handle = HandleMiddle;
     setCursor(cursorFor(handle));
 }
 
 void FloatingPictureWidget::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const QPoint at = inPicture(event->position().toPoint());
-    handle_ = GrabHandleAt(pics_.Floating, at.x(), at.y());
-    if (handle_ == HandleNone || !pics_.Floating.ResizeHandles) handle_ = HandleMiddle;
+    handle_ = GrabHandleAt(*area_.Floating, at.x(), at.y());
+    if (handle_ == HandleNone || !area_.Floating->ResizeHandles) handle_ = HandleMiddle;
     dragging_ = true;
     pressAt_ = event->globalPosition().toPoint();
-    start_ = pics_.Floating;
+    start_ = *area_.Floating;
 }
 
 void FloatingPictureWidget::mouseMoveEvent(QMouseEvent* event) {
@@ -114,7 +114,7 @@ void FloatingPictureWidget::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const QPoint d = event->globalPosition().toPoint() - pressAt_;
-    SetFloatingRect(pics_, DragFloating(start_, handle_, d.x(), d.y()));
+    SetFloatingRect(area_, DragFloating(start_, handle_, d.x(), d.y()));
     sync();
     if (onChanged) onChanged();
 }

@@ -6,14 +6,14 @@
 #include <QWidget>
 #include <functional>
 
-#include "render/fractal_pictures.h"
+#include "render/floating_picture.h"
 
 namespace quillane {
 
 class FloatingPictureWidget : public QWidget {
     Q_OBJECT
   public:
-    FloatingPictureWidget(FractalPictures& pics, QWidget* picture);
+    FloatingPictureWidget(PasteArea area, QWidget* picture);
     // Follows the logic: shown, placed and sized as pics.Floating says.
     void sync();
 
@@ -32,7 +32,7 @@ class FloatingPictureWidget : public QWidget {
     QPoint inPicture(QPoint local) const { return local + pos(); }
     void updateCursor(QPoint local);
 
-    FractalPictures& pics_;
+    PasteArea area_;
     bool dragging_ = false;
     int handle_ = 0;
     QPoint pressAt_;

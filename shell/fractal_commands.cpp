@@ -140,7 +140,7 @@ void registerBackground(MainWindow& frame) {
     frame.setCommand("mnuPicPastePopUpResize", [&s] { mnuPicPastePopUpResize_Click(s); });
     frame.setCommand("mnuPicPastePopUpSet", [&frame, &s, &host] {
         if (!s.pics.Floating.Visible) return;
-        PasteDataDialog dialog(host, s.pics, &frame);
+        PasteDataDialog dialog(host, FractalPasteArea(s.pics), &frame);
         if (dialog.exec() == QDialog::Accepted) ApplyPasteData(s.pics, dialog.values());
     });
     frame.setCommand("mnuPicPastePopUpCancel", [] {});

@@ -81,7 +81,7 @@ FractalWindow::FractalWindow(AppState& state, Host& host, QWidget* parent)
     picfractal_ = new PictureWidget;
     picfractal_->setObjectName("picfractal");
     picOuter_->setWidget(picfractal_);
-    picPaste_ = new FloatingPictureWidget(state_.pics, picfractal_);
+    picPaste_ = new FloatingPictureWidget(FractalPasteArea(state_.pics), picfractal_);
     picPaste_->onChanged = [this] { picCoord_->setText(QString::fromStdString(state_.pics.picCoord)); };
     picPaste_->onPopupRequested = [this](QPoint at) {
         if (onPastePopupRequested) onPastePopupRequested(at);

@@ -14,8 +14,8 @@ namespace {
 const char* const CornerCaptions[4] = {"Top left", "Top right", "Bottom left", "Bottom right"};
 }  // namespace
 
-PasteDataDialog::PasteDataDialog(Host& host, const FractalPictures& pics, QWidget* parent)
-    : QDialog(parent), host_(host), pics_(pics) {
+PasteDataDialog::PasteDataDialog(Host& host, PasteArea area, QWidget* parent)
+    : QDialog(parent), host_(host), area_(area) {
     setObjectName("frmPasteData");
     setWindowTitle("Position and Size");
     auto* layout = new QVBoxLayout(this);
@@ -51,7 +51,7 @@ PasteDataDialog::PasteDataDialog(Host& host, const FractalPictures& pics, QWidge
 }
 
 void PasteDataDialog::showCorner(int corner) {
-    const PasteDataText t = PasteDataFor(pics_, corner);
+    const PasteDataText t = PasteDataFor(area_, corner);
     txtX_->setText(QString::fromStdString(t.txtX));
     txtY_->setText(QString::fromStdString(t.txtY));
     txtWidth_->setText(QString::fromStdString(t.txtWidth));

@@ -13,7 +13,7 @@ namespace quillane {
 class PasteDataDialog : public QDialog {
     Q_OBJECT
   public:
-    PasteDataDialog(Host& host, const FractalPictures& pics, QWidget* parent = nullptr);
+    PasteDataDialog(Host& host, PasteArea area, QWidget* parent = nullptr);
     // The boxes as accepted.
     PasteDataText values() const;
 
@@ -24,7 +24,7 @@ class PasteDataDialog : public QDialog {
     void showCorner(int corner);
 
     Host& host_;
-    const FractalPictures& pics_;
+    PasteArea area_;
     QLineEdit* txtX_ = nullptr;
     QLineEdit* txtY_ = nullptr;
     QLineEdit* txtWidth_ = nullptr;
