@@ -4,6 +4,8 @@
 
 #include "app/fractal_view.h"
 #include "render/deterministic.h"
+#include "render/fractal_overlays.h"
+#include "app/trace_commands.h"
 
 namespace quillane {
 
@@ -52,6 +54,9 @@ void toRandomMenus(Workbench& wb, FractalPictures& pics) {
 void toDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     toDeterministicMenus(wb, pics);
     wb.RandomMode = false;
+    wb.TraceEnabled = false;
+    wb.TraceDigitPending = false;
+    ResetTraceMenu(wb, pics);
     pics.Det.picTrace.clear();
     pics.picCoord.clear();
     wb.IterationNumber = 0;
@@ -78,6 +83,7 @@ void toDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     }
     pics.picImage2.takeImage(pics.picfractal);
     BackToLevelZero(wb, pics);
+    FractalGridAxesFP(wb, pics);
 }
 
 void toRandom(Workbench& wb, FractalPictures& pics) {
@@ -92,6 +98,8 @@ void toRandom(Workbench& wb, FractalPictures& pics) {
     wb.IterationNumber = -1;  // a marker until the next view change
     wb.PointCount = 0;
     pics.picCount.clear();
+    ResetTraceMenu(wb, pics);
+    FractalGridAxesFP(wb, pics);
 }
 
 }  // namespace
@@ -102,8 +110,9 @@ void mnuDrawType_Click(Workbench& wb, FractalPictures& pics, Host& host, int Ind
     if (Index == 0 && !wb.RandomMode) toRandom(wb, pics);
 }
 
-void FractalKeyUp(Workbench& /*wb*/, FractalPictures& pics) {
+void FractalKeyUp(Workbench& wb, FractalPictures& pics) {
     pics.Det.KeepFirstColor = false;
+    wb.KeyHandled = false;
 }
 
 bool DeterministicDigitKey(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
