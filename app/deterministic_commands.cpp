@@ -3,12 +3,11 @@
 #include <algorithm>
 
 #include "app/fractal_view.h"
+#include "app/trace_commands.h"
 #include "render/deterministic.h"
 #include "render/fractal_overlays.h"
-#include "app/trace_commands.h"
 
 namespace quillane {
-
 
 namespace {
 
@@ -141,7 +140,6 @@ bool DeterministicDigitKey(Workbench& wb, FractalPictures& pics, Host& host, int
     Iterate(wb, pics, host, map - 1);
     return true;
 }
-
 
 void mnuDrawOverlay_Click(Workbench& wb) {
     if (wb.RandomMode || wb.DrawingActive || !wb.menu("mnuDrawOverlay").enabled) return;

@@ -1,13 +1,13 @@
 // The drawing commands of the fractal window and its keys.
 #include <string>
 
-#include "render/deterministic.h"
-#include "render/floating_picture.h"
-#include "app/fractal_view.h"
-#include "render/play_game.h"
 #include "app/deterministic_commands.h"
+#include "app/fractal_view.h"
 #include "app/overlay_commands.h"
 #include "app/trace_commands.h"
+#include "render/deterministic.h"
+#include "render/floating_picture.h"
+#include "render/play_game.h"
 #include "render/trace.h"
 
 namespace quillane {
@@ -21,8 +21,8 @@ bool deterministicDrawing(const Workbench& wb) {
 }
 
 void deleteKey(Workbench& wb, FractalPictures& pics, int shiftMask) {
-    const bool keep = (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid &&
-                      !pics.Floating.Visible;
+    const bool keep =
+        (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid && !pics.Floating.Visible;
     ClearImage(wb, pics, keep);
     wb.DrawingActive = false;
     wb.DrawingStarted = false;
@@ -204,7 +204,8 @@ bool keyRows(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int 
 
 bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
     if (shiftMask == (ShiftMaskCtrl | ShiftMaskShift)) pics.Det.KeepFirstColor = true;
-    if (wb.KeyHandled && !wb.TraceDigitPending) return false;
+    // The toolkit gives one event per keystroke, so there is no second (character) event of the same
+    // stroke for KeyHandled to drop; it is kept for what reads it until the key comes up.
     const bool handled = keyRows(wb, pics, host, keyCode, shiftMask);
     if (handled) wb.KeyHandled = true;
     return handled;
