@@ -41,13 +41,18 @@ bool GridSpacingKey(Workbench& wb, FractalPictures& pics, bool coarser) {
     return true;
 }
 
-bool FractalGridSize(Workbench& wb, FractalPictures& pics, const GridSpacing& g, Host& host) {
+bool CheckFractalGridRange(const GridSpacing& g, Host& host) {
     for (float v : {g.x, g.y}) {
         if (!(v >= MinFractalGridSpacing && v <= MaxFractalGridSpacing)) {
             host.warn("Error", GridSizeRangeText);
             return false;
         }
     }
+    return true;
+}
+
+bool FractalGridSize(Workbench& wb, FractalPictures& pics, const GridSpacing& g, Host& host) {
+    if (!CheckFractalGridRange(g, host)) return false;
     wb.GridSpacingX = g.x;
     wb.GridSpacingY = g.y;
     wb.Menu.setChecked("mnudrawFractalGrid", true);

@@ -26,6 +26,8 @@ void FractalGrid(Workbench& wb, FractalPictures& pics);
 void mnudrawFractalGrid_Click(Workbench& wb, FractalPictures& pics);
 // The plus and minus keys while the grid is shown; false when the grid is hidden.
 bool GridSpacingKey(Workbench& wb, FractalPictures& pics, bool coarser);
+// The fractal window's range for both spacings; outside it the message titled "Error".
+bool CheckFractalGridRange(const GridSpacing& g, Host& host);
 // frmGridSize's OK on the fractal window: the range check, then the grid is shown at that spacing.
 bool FractalGridSize(Workbench& wb, FractalPictures& pics, const GridSpacing& g, Host& host);
 // frmAxisSize's OK with the cmbThickness list index.
