@@ -3,10 +3,11 @@
 #include <algorithm>
 
 #include "app/fractal_view.h"
+#include "app/trace_commands.h"
 #include "render/deterministic.h"
+#include "render/fractal_overlays.h"
 
 namespace quillane {
-
 
 namespace {
 
@@ -52,6 +53,9 @@ void toRandomMenus(Workbench& wb, FractalPictures& pics) {
 void toDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     toDeterministicMenus(wb, pics);
     wb.RandomMode = false;
+    wb.TraceEnabled = false;
+    wb.TraceDigitPending = false;
+    ResetTraceMenu(wb, pics);
     pics.Det.picTrace.clear();
     pics.picCoord.clear();
     wb.IterationNumber = 0;
@@ -78,6 +82,7 @@ void toDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     }
     pics.picImage2.takeImage(pics.picfractal);
     BackToLevelZero(wb, pics);
+    FractalGridAxesFP(wb, pics);
 }
 
 void toRandom(Workbench& wb, FractalPictures& pics) {
@@ -92,6 +97,8 @@ void toRandom(Workbench& wb, FractalPictures& pics) {
     wb.IterationNumber = -1;  // a marker until the next view change
     wb.PointCount = 0;
     pics.picCount.clear();
+    ResetTraceMenu(wb, pics);
+    FractalGridAxesFP(wb, pics);
 }
 
 }  // namespace
@@ -102,8 +109,9 @@ void mnuDrawType_Click(Workbench& wb, FractalPictures& pics, Host& host, int Ind
     if (Index == 0 && !wb.RandomMode) toRandom(wb, pics);
 }
 
-void FractalKeyUp(Workbench& /*wb*/, FractalPictures& pics) {
+void FractalKeyUp(Workbench& wb, FractalPictures& pics) {
     pics.Det.KeepFirstColor = false;
+    wb.KeyHandled = false;
 }
 
 bool DeterministicDigitKey(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
@@ -132,7 +140,6 @@ bool DeterministicDigitKey(Workbench& wb, FractalPictures& pics, Host& host, int
     Iterate(wb, pics, host, map - 1);
     return true;
 }
-
 
 void mnuDrawOverlay_Click(Workbench& wb) {
     if (wb.RandomMode || wb.DrawingActive || !wb.menu("mnuDrawOverlay").enabled) return;

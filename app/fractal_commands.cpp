@@ -1,11 +1,14 @@
 // The drawing commands of the fractal window and its keys.
 #include <string>
 
+#include "app/deterministic_commands.h"
+#include "app/fractal_view.h"
+#include "app/overlay_commands.h"
+#include "app/trace_commands.h"
 #include "render/deterministic.h"
 #include "render/floating_picture.h"
-#include "app/fractal_view.h"
 #include "render/play_game.h"
-#include "app/deterministic_commands.h"
+#include "render/trace.h"
 
 namespace quillane {
 
@@ -18,8 +21,8 @@ bool deterministicDrawing(const Workbench& wb) {
 }
 
 void deleteKey(Workbench& wb, FractalPictures& pics, int shiftMask) {
-    const bool keep = (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid &&
-                      !pics.Floating.Visible;
+    const bool keep =
+        (shiftMask & ShiftMaskCtrl) != 0 && wb.RandomMode && pics.PictureOverlaid && !pics.Floating.Visible;
     ClearImage(wb, pics, keep);
     wb.DrawingActive = false;
     wb.DrawingStarted = false;
@@ -88,15 +91,16 @@ void DrawFixedNumber(Workbench& wb, FractalPictures& pics, Host& host, int32_t c
     PlayGame(wb, pics, host, 0, count);
 }
 
-bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
-    if (shiftMask == (ShiftMaskCtrl | ShiftMaskShift)) pics.Det.KeepFirstColor = true;
+namespace {
+
+bool keyRows(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
     switch (keyCode) {
         case KeyQ:
             wb.DrawingActive = false;
             pics.Det.IterationAbort = true;
             return true;
         case KeyD:
-            if (shiftMask != CtrlAlt) return false;
+            if (shiftMask != CtrlAlt) break;
             DrawFixedNumber(wb, pics, host, wb.RandomMode ? pics.LastFixedCount : pics.Det.LastLevels);
             return true;
         case KeyPageUp:
@@ -118,31 +122,93 @@ bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCod
         case KeyUp:
         case KeyRight:
         case KeyDown:
-            if (deterministicDrawing(wb)) return false;
+            if (deterministicDrawing(wb)) break;
             ShiftDrawWin(wb, pics, host, keyCode);
             showFloatingCorners(pics);
             return true;
-        case KeyEsc:
-            if (pics.Floating.Visible) {
-                PlaceFractalSelection(wb, pics);
-                return true;
-            }
-            return LiftPlacedPicture(wb, pics);
-        case KeyR:
-            if (shiftMask != CtrlAlt || !pics.Floating.Visible) break;
-            pics.Floating.ResizeHandles = !pics.Floating.ResizeHandles;
-            wb.Menu.setChecked("mnuPicPastePopUpResize", pics.Floating.ResizeHandles);
-            return true;
         case KeyDelete:
-            if (deterministicDrawing(wb)) return false;
+            if (deterministicDrawing(wb)) break;
             deleteKey(wb, pics, shiftMask);
             return true;
+        case 'A':
+            if (shiftMask == ShiftMaskCtrl) {
+                FractalAxes(wb, pics);
+                return true;
+            }
+            if (shiftMask == CtrlAlt && !deterministicDrawing(wb)) {
+                pics.KeyDialog = "frmAxisSize";
+                return true;
+            }
+            break;
+        case 'F':
+            if (shiftMask != ShiftMaskCtrl) break;
+            FractalFixedPoints(wb, pics);
+            return true;
+        case 'G':
+            if (shiftMask == ShiftMaskCtrl) {
+                mnudrawFractalGrid_Click(wb, pics);
+                return true;
+            }
+            if (shiftMask == CtrlAlt && !deterministicDrawing(wb)) {
+                pics.KeyDialog = "frmGridSize";
+                return true;
+            }
+            break;
+        case KeyPlus:
+        case KeyAdd:
+            if (GridSpacingKey(wb, pics, true)) return true;
+            break;
+        case KeyMinus:
+        case KeySubtract:
+            if (GridSpacingKey(wb, pics, false)) return true;
+            break;
+        case 'P':
+            if (shiftMask == CtrlAlt && wb.TraceEnabled) {
+                pics.KeyDialog = "frmTracePoint";
+                return true;
+            }
+            break;
         default:
             break;
+    }
+    // Rows that share their keys with the rows above, in the table's order.
+    if (keyCode == KeyEsc) {
+        if (pics.Floating.Visible) {
+            PlaceFractalSelection(wb, pics);
+            return true;
+        }
+        if (LiftPlacedPicture(wb, pics)) return true;
+    }
+    if (keyCode == 'P' && shiftMask == CtrlAlt && pics.Floating.Visible && !wb.TraceEnabled) {
+        pics.KeyDialog = "picPasteSetPosition";
+        return true;
+    }
+    if (keyCode == KeyR && shiftMask == CtrlAlt && pics.Floating.Visible) {
+        pics.Floating.ResizeHandles = !pics.Floating.ResizeHandles;
+        wb.Menu.setChecked("mnuPicPastePopUpResize", pics.Floating.ResizeHandles);
+        return true;
+    }
+    if (wb.TraceEnabled && wb.TracePointSet && !wb.DrawingActive) {
+        if (keyCode == KeySpace) {
+            TraceStep(wb, pics, -1);
+            return true;
+        }
+        return HandleTrace(wb, pics, keyCode, shiftMask);
     }
     if (wb.RandomMode || wb.DrawingActive) return false;
     PlaceFractalSelection(wb, pics);
     return DeterministicDigitKey(wb, pics, host, keyCode, shiftMask);
+}
+
+}  // namespace
+
+bool FractalKeyDown(Workbench& wb, FractalPictures& pics, Host& host, int keyCode, int shiftMask) {
+    if (shiftMask == (ShiftMaskCtrl | ShiftMaskShift)) pics.Det.KeepFirstColor = true;
+    // The toolkit gives one event per keystroke, so there is no second (character) event of the same
+    // stroke for KeyHandled to drop; it is kept for what reads it until the key comes up.
+    const bool handled = keyRows(wb, pics, host, keyCode, shiftMask);
+    if (handled) wb.KeyHandled = true;
+    return handled;
 }
 
 void ResizeFractalWin(Workbench& wb, FractalPictures& pics, int side) {

@@ -4,6 +4,7 @@
 
 #include "core/numbers.h"
 #include "render/deterministic.h"
+#include "render/fractal_overlays.h"
 #include "render/play_game.h"
 #include "render/scale.h"
 
@@ -102,6 +103,7 @@ void redrawRandomZoom(Workbench& wb, FractalPictures& pics, Host& host, const Ra
     } else {
         pics.picImage2.takeImage(pics.picfractal);
         pics.picImage3.takeImage(before);
+        ShowOverlays(wb, pics);
     }
 }
 
@@ -117,6 +119,7 @@ void restoreUndonePicture(Workbench& wb, FractalPictures& pics, const RasterSurf
     const WorldWindow& w = wb.Window;
     pics.picImageShift.setScale(w.xmin, w.ymax, w.xmax, w.ymin);
     pics.picImageShift.takeImage(pics.picImage2);
+    ShowOverlays(wb, pics);
     showCountOf(wb, pics);
 }
 
@@ -142,6 +145,7 @@ void shiftDeterministic(Workbench& wb, FractalPictures& pics, Host& host, int Ke
     } else {
         pics.picImage3.takeImage(pics.picImage2);
     }
+    FractalGridAxesFP(wb, pics);
     host.yield();
 }
 
@@ -216,6 +220,7 @@ void ShiftDrawWin(Workbench& wb, FractalPictures& pics, Host& host, int KeyCode)
     slideInto(pics.picImage3, pics.picImage);
     slideInto(pics.picfractal, pics.picImageShift);
     pics.picImage2.takeImage(pics.picfractal);
+    ShowOverlays(wb, pics);
     host.yield();
 }
 
@@ -269,6 +274,7 @@ void mnuDrawScaleDesign_Click(Workbench& wb, FractalPictures& pics, Host& host) 
     pics.picfractal.clear();
     DrawDetFigure(wb, pics, host, false);
     pics.picImage2.takeImage(pics.picfractal);
+    FractalGridAxesFP(wb, pics);
 }
 
 }  // namespace quillane

@@ -32,6 +32,11 @@ enum FractalKey : int {
     KeyD = 68,
     KeyR = 82,
     KeyEsc = 27,
+    KeySpace = 32,
+    KeyAdd = 107,       // the keypad's plus
+    KeySubtract = 109,  // the keypad's minus
+    KeyPlus = 187,      // the plus key beside the digits
+    KeyMinus = 189,     // the minus key beside the digits
 };
 // Shift mask bits.
 enum ShiftMask : int { ShiftMaskShift = 1, ShiftMaskCtrl = 2, ShiftMaskAlt = 4 };

@@ -70,6 +70,21 @@ class Workbench {
     GradientColors Gradient = DefaultGradient();
     std::vector<int16_t> HitCount;
 
+    // Trace: a walk of the random iteration by hand, one map per key.
+    bool TraceEnabled = false;
+    bool TracePointSet = false;
+    float TraceX = 0, TraceY = 0;        // the initial point
+    float TraceCurX = 0, TraceCurY = 0;  // the walk's present point
+    int16_t TraceDotSize = 2;            // the dot's radius in pixels
+    bool TraceDigitPending = false;      // Shift and a first digit wait for the second
+    int16_t TraceTensDigit = 0;
+    float TraceColorX = 0, TraceColorY = 0;  // the colouring orbit a trace advances when colours are stolen
+    bool KeyHandled = false;
+
+    // Overlays of the fractal window.
+    int16_t AxisThickness = 1;
+    float GridSpacingX = 0.1f, GridSpacingY = 0.1f;
+
     // View.
     WorldWindow Window;  // the fractal window's WorldWindow
     float AttractorXMin = 0, AttractorXMax = 0, AttractorYMin = 0, AttractorYMax = 0;

@@ -6,6 +6,7 @@
 
 #include "render/deterministic_scan.h"
 #include "render/floating_picture.h"
+#include "render/fractal_overlays.h"
 #include "core/undo_menu.h"
 #include "render/initial_figures.h"
 #include "render/picture_figures.h"
@@ -171,6 +172,7 @@ void Iterate(Workbench& wb, FractalPictures& pics, Host& host, int Which) {
     if (done && !pics.Det.IterationAbort) {
         TakeShiftImage(wb, pics);
         pics.picImage2.takeImage(pics.picfractal);
+        FractalGridAxesFP(wb, pics);
         wb.IterationNumber = std::max(wb.IterationNumber, 0) + 1;
         ShowDetLevel(wb, pics);
     }
@@ -228,6 +230,7 @@ void ResetDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     pics.picfractal.clear();
     DrawDetFigure(wb, pics, host, false);
     pics.picImage2.takeImage(pics.picfractal);
+    FractalGridAxesFP(wb, pics);
     BackToLevelZero(wb, pics);
 }
 
@@ -250,6 +253,7 @@ void ClearDeterministicImage(Workbench& wb, FractalPictures& pics, Host& host) {
         DrawDetFigure(wb, pics, host, false);
     }
     pics.picImage2.takeImage(pics.picfractal);
+    FractalGridAxesFP(wb, pics);
     if (wb.DetFigure > 6) TakeShiftImage(wb, pics);
 }
 
@@ -259,6 +263,7 @@ void RedrawDeterministicView(Workbench& wb, FractalPictures& pics, Host& host) {
     DrawDetFigure(wb, pics, host, false);
     TakeShiftImage(wb, pics);
     pics.picImage2.takeImage(pics.picfractal);
+    FractalGridAxesFP(wb, pics);
 }
 
 void CalcScaleDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
@@ -279,6 +284,7 @@ void CalcScaleDeterministic(Workbench& wb, FractalPictures& pics, Host& host) {
     }
     wb.FitWindow = wb.Window;
     pics.picImage2.takeImage(pics.picfractal);
+    FractalGridAxesFP(wb, pics);
 }
 
 void ClearImageDeterministicBranch(Workbench& wb, FractalPictures& pics) {

@@ -3,13 +3,14 @@
 #include "core/numbers.h"
 #include "render/deterministic.h"
 #include "render/floating_picture.h"
+#include "render/fractal_overlays.h"
 #include "render/scale.h"
 
 namespace quillane {
 
 void FractalPictures::resize(int side, Color back) {
     for (RasterSurface* s :
-         {&picfractal, &picImage2, &picImage3, &picImageShift, &picImage, &picMask, &picImage4}) {
+         {&picfractal, &picImage2, &picImage3, &picImageShift, &picImage, &picMask, &picMaskShift, &picImage4}) {
         s->setBackColor(back);
         s->resize(side, side);
     }
@@ -17,7 +18,7 @@ void FractalPictures::resize(int side, Color back) {
 
 void ApplyWindow(FractalPictures& pics, const WorldWindow& w) {
     for (RasterSurface* s : {&pics.picfractal, &pics.picImage2, &pics.picImage3, &pics.picImageShift,
-                             &pics.picImage, &pics.picMask, &pics.picImage4}) {
+                             &pics.picImage, &pics.picMask, &pics.picMaskShift, &pics.picImage4}) {
         s->setScale(w.xmin, w.ymax, w.xmax, w.ymin);
     }
 }
@@ -72,6 +73,7 @@ void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
     if (pics.Floating.Visible) PlaceFractalSelection(wb, pics);
     // A kept picture floats again at its place, to be moved or placed anew.
     if (KeepPicture && pics.PictureOverlaid) FloatPlacedPictureAgain(pics);
+    ShowOverlays(wb, pics);
 }
 
 void RestoreSelectionPen(FractalPictures& pics) {
@@ -83,7 +85,7 @@ void RestoreSelectionPen(FractalPictures& pics) {
 
 void ClearSelectionRect(Workbench& wb, FractalPictures& pics) {
     FractalSelection& s = pics.Selection;
-    pics.picfractal.takeImage(pics.picImage2);
+    RedrawOverlays(wb, pics);
     // The repaint took any rectangle or line of a drag with it, so the drag ends too.
     if (s.SelectionDragging || s.DrawingLine) RestoreSelectionPen(pics);
     s.SelectionDragging = false;

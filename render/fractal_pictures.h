@@ -1,6 +1,7 @@
 #pragma once
 // The picture areas of the fractal window. They all share the fractal WorldWindow.
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "core/workbench.h"
@@ -41,7 +42,8 @@ struct FractalPictures {
     RasterSurface picImage3;      // the drawing before the last view change
     RasterSurface picImageShift;  // what a shift of the view slides
     RasterSurface picImage;
-    RasterSurface picMask;
+    RasterSurface picMask;        // the drawing with the trace dots, ANDed back after an overlay goes
+    RasterSurface picMaskShift;   // picMask at the present scale
     RasterSurface picImage4;
     RasterSurface picPaste;       // the picture at its present size, floating or placed
     RasterSurface picImagePaste;  // the picture at its own size, which every resize starts from
@@ -53,6 +55,11 @@ struct FractalPictures {
     std::string picCount;
     // The coordinate display picCoord.
     std::string picCoord;
+    // Whether a text fits the width of picTrace; the window measures it, and without one all fits.
+    std::function<bool(const std::string&)> picTraceFits;
+    // The dialog a key asks the window to open: "frmAxisSize", "frmGridSize", "frmTracePoint" or
+    // "picPasteSetPosition"; the window opens it and empties this.
+    std::string KeyDialog;
 
     FractalSelection Selection;
     DeterministicState Det;

@@ -8,6 +8,7 @@
 #include "core/numbers.h"
 #include "render/color_modes.h"
 #include "render/color_stealing.h"
+#include "render/fractal_overlays.h"
 #include "render/map_choice.h"
 #include "render/run_maps.h"
 
@@ -305,6 +306,7 @@ void restartPictures(Workbench& wb, FractalPictures& pics) {
     pics.picfractal.clear();
     if (pics.PictureOverlaid) pics.picfractal.paint(pics.picPaste, pics.PasteX, pics.PasteY, RasterOp::Copy);
     pics.picImage2.takeImage(pics.picfractal);
+    ShowOverlays(wb, pics);
 }
 
 }  // namespace
@@ -345,6 +347,8 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
     if (Restart == 1) restartPictures(wb, pics);
     // The option button alone decides, whatever colour scheme is in force.
     if (pics.Det.optColoring == VisitCountColorMode && wb.PointCount == 0) ClearHitCount(wb.HitCount);
+    // Off and on again: the dots follow a changed scale.
+    if (wb.menu("mnuFixedPoints").checked) RedrawOverlays(wb, pics);
     if (pics.Selection.SelectionActive) ClearSelectionRect(wb, pics);
 
     const RunMaps maps = CopyRunMaps(wb);

@@ -19,6 +19,7 @@
 #include "shell/how_many_dialog.h"
 #include "shell/image_size_dialog.h"
 #include "shell/main_window.h"
+#include "shell/overlay_commands_qt.h"
 #include "shell/paste_data_dialog.h"
 #include "app/background_commands.h"
 #include "app/window_commands.h"
@@ -154,6 +155,7 @@ void RegisterFractalCommands(MainWindow& frame) {
     registerView(frame);
     registerPictures(frame);
     registerBackground(frame);
+    RegisterOverlayCommands(frame);
     if (FractalWindow* fractal = frame.fractalWindow()) {
         fractal->runCommand = [&frame](const std::string& key) { frame.runCommand(key); };
         fractal->afterCommand = [&frame] { frame.refreshWindows(); };

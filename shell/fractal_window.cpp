@@ -11,12 +11,17 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <map>
+#include <utility>
 
 #include "render/deterministic.h"
 #include "app/fractal_view.h"
 #include "shell/floating_picture_widget.h"
 #include "shell/picture_widget.h"
 #include "app/deterministic_commands.h"
+#include "app/overlay_commands.h"
+#include "app/trace_commands.h"
+#include "shell/overlay_icons.h"
 
 namespace quillane {
 
@@ -49,6 +54,15 @@ int FractalKeyCode(int qtKey) {
     }
     if (qtKey >= Qt::Key_A && qtKey <= Qt::Key_Z) return 'A' + (qtKey - Qt::Key_A);
     if (qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) return '0' + (qtKey - Qt::Key_0);
+    // With Shift held the toolkit names the digit keys by their symbols; the logic wants the key.
+    static constexpr int shiftedDigits[] = {Qt::Key_ParenRight, Qt::Key_Exclam,     Qt::Key_At,
+                                            Qt::Key_NumberSign, Qt::Key_Dollar,     Qt::Key_Percent,
+                                            Qt::Key_AsciiCircum, Qt::Key_Ampersand, Qt::Key_Asterisk,
+                                            Qt::Key_ParenLeft};
+    for (int d = 0; d < 10; ++d)
+        if (qtKey == shiftedDigits[d]) return '0' + d;
+    if (qtKey == Qt::Key_Plus || qtKey == Qt::Key_Equal) return KeyPlus;
+    if (qtKey == Qt::Key_Minus || qtKey == Qt::Key_Underscore) return KeyMinus;
     if (qtKey == Qt::Key_Space || qtKey == Qt::Key_Escape) return qtKey & 0xFF;
     // Every other key, modifiers alone among them, is none of the window's: Qt's codes for Ctrl or
     // Shift would otherwise read as Page Up and the like.
@@ -116,11 +130,21 @@ FractalWindow::FractalWindow(AppState& state, Host& host, QWidget* parent)
     connect(picfractal_, &PictureWidget::mouseMoved, this,
             [this](QPointF w, Qt::KeyboardModifiers) { onMouseMoved(w); });
     connect(picfractal_, &PictureWidget::mousePressed, this, &FractalWindow::onMousePressed);
-    connect(picfractal_, &PictureWidget::keyPressed, this, &FractalWindow::keyPressEvent);
+    // The picture keeps its keys: passed on to the window as well, an unhandled digit would count twice.
+    connect(picfractal_, &PictureWidget::keyPressed, this, [this](QKeyEvent* e) { handleKey(e); });
     connect(picfractal_, &PictureWidget::mouseReleased, this, &FractalWindow::onMouseReleased);
     setFocusProxy(picfractal_);
+    state_.pics.picTraceFits = [this](const std::string& text) {
+        // Before the window is laid out the label has no width of its own yet.
+        return !picTrace_->isVisible() || picTrace_->fontMetrics().horizontalAdvance(QString::fromStdString(text)) <=
+               picTrace_->contentsRect().width();
+    };
     resize(420, 480);
     refresh();
+}
+
+FractalWindow::~FractalWindow() {
+    state_.pics.picTraceFits = nullptr;
 }
 
 void FractalWindow::buildToolbar() {
@@ -137,10 +161,22 @@ void FractalWindow::buildToolbar() {
             runCommand("mnuRun");
     });
     Toolbar1_->addSeparator();
-    for (auto [key, text] : {std::pair{"axes", "Axes"}, {"fixed points", "Fixed Points"}, {"grid", "Grid"}}) {
-        QAction* a = Toolbar1_->addAction(text);
-        a->setObjectName(key);
-        a->setEnabled(false);  // overlays arrive with their own module
+    overlayButtons_ = {
+        {Toolbar1_->addAction(OverlayIcon(0), "Axes"), "mnuAxes"},
+        {Toolbar1_->addAction(OverlayIcon(1), "Fixed Points"), "mnuFixedPoints"},
+        {Toolbar1_->addAction(OverlayIcon(2), "Grid"), "mnudrawFractalGrid"},
+    };
+    const char* keys[] = {"axes", "fixed points", "grid"};
+    for (size_t k = 0; k < overlayButtons_.size(); ++k) {
+        QAction* a = overlayButtons_[k].first;
+        a->setObjectName(keys[k]);
+        a->setCheckable(true);
+        connect(a, &QAction::triggered, this, [this, k] {
+            if (k == 0) FractalAxes(state_.wb, state_.pics);
+            if (k == 1) FractalFixedPoints(state_.wb, state_.pics);
+            if (k == 2) mnudrawFractalGrid_Click(state_.wb, state_.pics);
+            changed();
+        });
     }
     Toolbar1_->addSeparator();
     QAction* zoomOut = Toolbar1_->addAction(style()->standardIcon(QStyle::SP_ArrowDown), "Zoom Out");
@@ -171,6 +207,8 @@ void FractalWindow::refresh() {
     play_->setText(running ? "Stop" : "Draw");
     play_->setIcon(style()->standardIcon(running ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
     picCount_->setText(QString::fromStdString(state_.pics.picCount));
+    picTrace_->setText(QString::fromStdString(state_.pics.Det.picTrace));
+    for (auto& [button, key] : overlayButtons_) button->setChecked(wb.menu(key).checked);
     // A deterministic level shows its progress in place of the coordinates.
     const DeterministicState& det = state_.pics.Det;
     pgrIterate_->setVisible(det.pgrIterateVisible);
@@ -213,16 +251,24 @@ void FractalWindow::showEvent(QShowEvent* event) {
 }
 
 void FractalWindow::keyPressEvent(QKeyEvent* event) {
-    // Ctrl+Alt+P places the floating picture by numbers, in a dialog of the frame.
-    if (event->key() == Qt::Key_P && FractalShiftMask(event->modifiers()) == (ShiftMaskCtrl | ShiftMaskAlt) &&
-        state_.pics.Floating.Visible && runCommand) {
-        runCommand("mnuPicPastePopUpSet");
-        return;
-    }
+    if (!handleKey(event)) event->ignore();
+}
+
+bool FractalWindow::handleKey(QKeyEvent* event) {
     const bool handled = FractalKeyDown(state_.wb, state_.pics, host_, FractalKeyCode(event->key()),
                                         modifierMask(event->modifiers()));
+    // A key that asks for a dialog: the frame opens it.
+    const std::string dialog = std::exchange(state_.pics.KeyDialog, std::string());
+    if (!dialog.empty() && runCommand) {
+        static const std::map<std::string, std::string> commands{{"frmAxisSize", "frmAxisSize"},
+                                                                 {"frmGridSize", "frmGridSize"},
+                                                                 {"frmTracePoint", "mnuDrawTraceSetPoint"},
+                                                                 {"picPasteSetPosition", "mnuPicPastePopUpSet"}};
+        if (const auto it = commands.find(dialog); it != commands.end()) runCommand(it->second);
+        return true;
+    }
     changed();
-    if (!handled) event->ignore();
+    return handled;
 }
 
 void FractalWindow::keyReleaseEvent(QKeyEvent* event) {
@@ -242,10 +288,13 @@ void FractalWindow::onMousePressed(QPointF world, Qt::MouseButton button, Qt::Ke
     refresh();
 }
 
-void FractalWindow::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers,
+void FractalWindow::onMouseReleased(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
                                     QPoint globalPosition) {
     if (button == Qt::RightButton) {
-        if (onDrawMenuRequested) onDrawMenuRequested(globalPosition);
+        if (TraceRightClick(state_.wb, state_.pics, world.x(), world.y(), modifierMask(modifiers)))
+            changed();
+        else if (onDrawMenuRequested)
+            onDrawMenuRequested(globalPosition);
         return;
     }
     if (button != Qt::LeftButton || state_.wb.DrawingActive) return;

@@ -2,6 +2,9 @@
 // frmFractal: the attractor in picOuter, its toolbar, the coordinates and the count.
 #include <QWidget>
 #include <functional>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "core/host.h"
 #include "app/app_state.h"
@@ -21,6 +24,7 @@ class FractalWindow : public QWidget {
     Q_OBJECT
   public:
     FractalWindow(AppState& state, Host& host, QWidget* parent = nullptr);
+    ~FractalWindow() override;
     // Shows the pictures, the caption and the count as the workbench has them now.
     void refresh();
     // Lays the picture out for the present window size (ResizeFractalWin).
@@ -47,6 +51,8 @@ class FractalWindow : public QWidget {
 
   private:
     void buildToolbar();
+    // A key on the picture or the window: the logic's key rows; true when one took it.
+    bool handleKey(QKeyEvent* event);
     void changed();
     void onMouseMoved(QPointF world);
     void onMousePressed(QPointF world, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
@@ -57,6 +63,8 @@ class FractalWindow : public QWidget {
     Host& host_;
     QToolBar* Toolbar1_ = nullptr;
     QAction* play_ = nullptr;
+    // The axes, fixed points and grid buttons with the menu items whose check marks they show.
+    std::vector<std::pair<QAction*, std::string>> overlayButtons_;
     QScrollArea* picOuter_ = nullptr;
     PictureWidget* picfractal_ = nullptr;
     FloatingPictureWidget* picPaste_ = nullptr;

@@ -52,6 +52,7 @@ void GridSizeDialog::ok() {
     spacing_ = EvaluateGridSize({txtGrid_->text().toStdString(), txtygrid_->text().toStdString(),
                                  chkScale_->isChecked()},
                                 host_);
+    if (spacing_ && accepts && !accepts(*spacing_)) spacing_.reset();
     if (spacing_) accept();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // frmDesignGridSize / frmGridSize: the grid's spacing, x alone or x and y apart.
 #include <QDialog>
+#include <functional>
 #include <optional>
 
 #include "app/grid_size.h"
@@ -19,6 +20,8 @@ class GridSizeDialog : public QDialog {
     GridSizeDialog(Host& host, float x, float y, QWidget* parent = nullptr);
     // What OK accepted; nothing after Cancel.
     std::optional<GridSpacing> spacing() const { return spacing_; }
+    // A further check of the window that asks (the fractal window's range); the dialog stays open on false.
+    std::function<bool(const GridSpacing&)> accepts;
 
     QLineEdit* txtGrid() const { return txtGrid_; }
     QLineEdit* txtygrid() const { return txtygrid_; }
