@@ -9,10 +9,7 @@
 
 namespace quillane {
 
-namespace {
-
-// Nearest-pixel stretch: every target pixel takes the source pixel its centre falls on.
-RasterSurface stretched(const RasterSurface& source, int width, int height) {
+RasterSurface StretchPicture(const RasterSurface& source, int width, int height) {
     RasterSurface out(width, height, source.backColor());
     if (source.width() <= 0 || source.height() <= 0) return out;
     for (int r = 0; r < height; ++r) {
@@ -24,6 +21,8 @@ RasterSurface stretched(const RasterSurface& source, int width, int height) {
     }
     return out;
 }
+
+namespace {
 
 // The world position of the centre of picfractal's pixel (column, row): it maps back to that pixel
 // whatever the rounding of the window.
@@ -58,7 +57,7 @@ void PicPasteResize(FractalPictures& pics) {
     FloatingPicture& f = pics.Floating;
     f.Width = std::max(f.Width, 1);
     f.Height = std::max(f.Height, 1);
-    pics.picPaste = stretched(pics.picImagePaste, f.Width, f.Height);
+    pics.picPaste = StretchPicture(pics.picImagePaste, f.Width, f.Height);
 }
 
 void FloatPicture(FractalPictures& pics, const RasterSurface& image) {

@@ -20,6 +20,8 @@ inline constexpr int HandleMiddle = -1;
 inline constexpr int HandleNone = -2;
 inline constexpr int GrabHandleSize = 5;
 
+// Nearest-pixel stretch: every target pixel takes the source pixel its centre falls on.
+RasterSurface StretchPicture(const RasterSurface& source, int width, int height);
 // picPaste from picImagePaste, stretched to the floating size.
 void PicPasteResize(FractalPictures& pics);
 // Takes `image` as the floating picture: at its own size when it fits the fractal picture, else
