@@ -28,8 +28,10 @@ ColorStealingWindow::ColorStealingWindow(AppState& s, Host& host, const std::str
     form_.picTestWidth = PictureAreaWidth;
     form_.picTestHeight = PictureAreaHeight;
     build();
+    // The kept place counts from the frame's corner, so the window opens over the program.
     const WindowPlace& place = s_.wb.Windows.colorStealing;
-    move(TwipsToPixels(place.left, logicalDpiX()), TwipsToPixels(place.top, logicalDpiY()));
+    const QPoint corner = parent ? parent->frameGeometry().topLeft() : QPoint();
+    move(corner + QPoint(TwipsToPixels(place.left, logicalDpiX()), TwipsToPixels(place.top, logicalDpiY())));
     ColorStealingState& cs = s_.pics.Stealing;
     ConfigureComboList(s_.wb, cs, form_);
     LoadDefaultStealingPicture(s_.wb, cs, form_, programDir);
