@@ -1,5 +1,7 @@
 #include "render/color_modes.h"
 
+#include <emmintrin.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,47 +10,10 @@
 
 namespace quillane {
 
-namespace {
-
-// Int() of the runtime for values that fit an int; std::floor is a library call on the baseline
-// instruction set, and the modes call this several times a point.
-inline int floorToInt(double v) {
-    const int i = static_cast<int>(v);
-    return i > v ? i - 1 : i;
-}
-
-}  // namespace
-
 int PlayGameColorMode(const Workbench& wb, const FractalPictures& pics) {
     if (wb.menu(MenuTable::key("mnuColors", 2)).checked) return StealingColorMode;
     if (wb.menu(MenuTable::key("mnuColors", 1)).checked) return std::clamp(pics.Det.optColoring, 1, 6);
     return IFSColorMode;
-}
-
-int GradientCount(const GradientColors& g) {
-    const int c = g.GradientColorCount == 0 ? GradientColorSlots : g.GradientColorCount;
-    return std::clamp(c, 1, GradientColorSlots);
-}
-
-Color MixColors(Color first, Color second, double f) {
-    int r1, g1, b1, r2, g2, b2;
-    GetRGBColors(first, r1, g1, b1);
-    GetRGBColors(second, r2, g2, b2);
-    auto mix = [f](int a, int b) {
-        const double v = std::clamp(a + (b - a) * f, 0.0, 255.0);
-        return floorToInt(v);
-    };
-    return RGB(mix(r1, r2), mix(g1, g2), mix(b1, b2));
-}
-
-Color GradientLookup(const GradientColors& g, double t) {
-    const int c = GradientCount(g);
-    if (c < 2) return g.picColors[0];
-    // 0.99999 keeps t = 1 from indexing past the last colour.
-    const int k = floorToInt(0.99999 * (c - 1) * t);
-    const double f = std::clamp((c - 1) * t - k, 0.0, 1.0);
-    const int at = std::clamp(k, 0, c - 2);
-    return MixColors(g.picColors[static_cast<size_t>(at)], g.picColors[static_cast<size_t>(at + 1)], f);
 }
 
 GradientPosition::GradientPosition(int mode, const Workbench& wb, const IFSEntry& ifs, int n) : mode_(mode) {
@@ -72,34 +37,56 @@ GradientPosition::GradientPosition(int mode, const Workbench& wb, const IFSEntry
             const double det = a * d + (1 - d - a) - b * c;
             if (det == 0) continue;
             fixed_.push_back({(f * b + e - e * d) / det, (e * c + f - f * a) / det});
+            fx_.push_back(fixed_.back()[0]);
+            fy_.push_back(fixed_.back()[1]);
         }
     }
 }
 
-double GradientPosition::t(float x, float y) const {
-    switch (mode_) {
-        case HeightColorMode:
-            return std::min(std::fabs((y - lo_) / range_), 1.0);
-        case WidthColorMode:
-            return std::min(std::fabs((x - lo_) / range_), 1.0);
-        case RadialColorMode: {
-            const double dx = x - cx_, dy = y - cy_;
-            return std::min(std::sqrt(dx * dx + dy * dy) / radius_, 1.0);
-        }
-        case FixedPointColorMode: {
-            double smallest = 1000, largest = 0;
-            for (const auto& p : fixed_) {
-                const double dx = x - p[0], dy = y - p[1];
-                const double d2 = dx * dx + dy * dy;
-                smallest = std::min(smallest, d2);
-                largest = std::max(largest, d2);
-            }
-            const double t = std::sqrt(smallest) / std::sqrt(largest);
-            // No fixed point (or a point on all of them) divides by zero: the last colour.
-            return std::isfinite(t) ? std::min(t, 1.0) : 1.0;
-        }
-        default:
-            return 0;
+double GradientPosition::fixedPointT(float x, float y) const {
+    double smallest = 1000, largest = 0;
+    nearestAndFarthest(x, y, smallest, largest);
+    const double t = std::sqrt(smallest) / std::sqrt(largest);
+    // No fixed point (or a point on all of them) divides by zero: the last colour.
+    return std::isfinite(t) ? std::min(t, 1.0) : 1.0;
+}
+
+void GradientPosition::nearestAndFarthest(double x, double y, double& smallest, double& largest) const {
+    // Two points a step in each of two pairs of lanes. A squared distance is never -0, and one that is
+    // NaN loses every comparison in a lane as it does in a single loop, so the lanes' smallest and
+    // largest are the single loop's, whatever the order.
+    const size_t n = fx_.size();
+    const double* px = fx_.data();
+    const double* py = fy_.data();
+    const __m128d X = _mm_set1_pd(x), Y = _mm_set1_pd(y);
+    __m128d s0 = _mm_set1_pd(smallest), s1 = s0, l0 = _mm_set1_pd(largest), l1 = l0;
+    size_t k = 0;
+    for (; k + 4 <= n; k += 4) {
+        const __m128d dx0 = _mm_sub_pd(X, _mm_loadu_pd(px + k)), dy0 = _mm_sub_pd(Y, _mm_loadu_pd(py + k));
+        const __m128d dx1 = _mm_sub_pd(X, _mm_loadu_pd(px + k + 2)),
+                      dy1 = _mm_sub_pd(Y, _mm_loadu_pd(py + k + 2));
+        const __m128d d0 = _mm_add_pd(_mm_mul_pd(dx0, dx0), _mm_mul_pd(dy0, dy0));
+        const __m128d d1 = _mm_add_pd(_mm_mul_pd(dx1, dx1), _mm_mul_pd(dy1, dy1));
+        // min(a, b) is a < b ? a : b, as std::min(smallest, d2) is d2 < smallest ? d2 : smallest.
+        s0 = _mm_min_pd(d0, s0);
+        s1 = _mm_min_pd(d1, s1);
+        l0 = _mm_max_pd(d0, l0);
+        l1 = _mm_max_pd(d1, l1);
+    }
+    double lanes[8];
+    _mm_storeu_pd(lanes, s0);
+    _mm_storeu_pd(lanes + 2, s1);
+    _mm_storeu_pd(lanes + 4, l0);
+    _mm_storeu_pd(lanes + 6, l1);
+    for (int j = 0; j < 4; ++j) {
+        smallest = std::min(smallest, lanes[j]);
+        largest = std::max(largest, lanes[4 + j]);
+    }
+    for (; k < n; ++k) {
+        const double dx = x - px[k], dy = y - py[k];
+        const double d2 = dx * dx + dy * dy;
+        smallest = std::min(smallest, d2);
+        largest = std::max(largest, d2);
     }
 }
 
@@ -168,7 +155,57 @@ Color StealingOrbit::next(int i) {
             // An orbit that far off the picture leaves no dot.
         }
     }
-    return cs_.picImage.point(nx, ny);
+    // picImage.point(nx, ny) without its call: floor(t) lies in [0, size) exactly when t does, and NaN
+    // fails every test.
+    const RasterSurface& p = cs_.picImage;
+    const double tx = (static_cast<double>(nx) - p.scaleLeft()) * p.pixelScaleX();
+    const double ty = (static_cast<double>(ny) - p.scaleTop()) * p.pixelScaleY();
+    if (!(tx >= 0 && ty >= 0 && tx < p.width() && ty < p.height())) return NoColor;
+    return p.pixel(static_cast<int>(tx), static_cast<int>(ty));
+}
+
+void PrepareRunColoring(Workbench& wb, FractalPictures& pics, int n, RunColoring& rc) {
+    rc.mode = PlayGameColorMode(wb, pics);
+    rc.gradient = wb.Gradient;
+    rc.gradient.GradientColorCount = GradientCount(rc.gradient);
+    switch (rc.mode) {
+        case HeightColorMode:
+        case WidthColorMode:
+        case RadialColorMode:
+        case FixedPointColorMode:
+            rc.position.emplace(rc.mode, wb, wb.CurrentIFS, n);
+            break;
+        case RandomColorMode:
+            rc.strips = GradientStrips(rc.gradient);
+            wb.Rng.Randomize();
+            break;
+        case VisitCountColorMode:
+            rc.visits.emplace(wb.HitCount, wb.Window, pics.picfractal.width(), rc.gradient);
+            break;
+        case StealingColorMode:
+            rc.orbit.emplace(pics.Stealing);
+            break;
+        default:
+            break;
+    }
+}
+
+Color RunColoring::tileColor(Random& rng, int i, float x, float y, Color mapColor) {
+    switch (mode) {
+        case HeightColorMode:
+        case WidthColorMode:
+        case RadialColorMode:
+        case FixedPointColorMode:
+            return position->color(gradient, x, y);
+        case RandomColorMode:
+            return RandomStripColor(strips, rng);
+        case VisitCountColorMode:
+            return visits->tileColor(x, y);
+        case StealingColorMode:
+            return orbit->next(i);
+        default:
+            return mapColor;
+    }
 }
 
 }  // namespace quillane

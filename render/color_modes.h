@@ -2,8 +2,11 @@
 // The colour modes of the drawings: the colour a point takes from its place, the gradient, the
 // counts of visits to its cell, or a picture under a second orbit. Mode 0, the map's own colour,
 // stays in the loops themselves.
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "core/gradient_colors.h"
@@ -33,27 +36,72 @@ inline constexpr int RandomStripRange = 180;
 // PlayGame's ColorMode: mnuColors(2) gives 7, mnuColors(1) the selected optColoring button, else 0.
 int PlayGameColorMode(const Workbench& wb, const FractalPictures& pics);
 
+// Int() of the runtime for values that fit an int; std::floor is a library call on the baseline
+// instruction set, and the modes call this several times a point.
+inline int floorToInt(double v) {
+    const int i = static_cast<int>(v);
+    return i > v ? i - 1 : i;
+}
+
 // GradientColorCount as the drawing reads it: 0 is taken as 7.
-int GradientCount(const GradientColors& g);
+inline int GradientCount(const GradientColors& g) {
+    const int c = g.GradientColorCount == 0 ? GradientColorSlots : g.GradientColorCount;
+    return std::clamp(c, 1, GradientColorSlots);
+}
+
 // Channel by channel Int(first + (second - first) * f). A wrapped visit count can push a channel
-// beyond 0..255; it is held there, as the colour maker of the program always did.
-Color MixColors(Color first, Color second, double f);
+// beyond 0..255; it is held there, as the colour maker of the program always did. Inline, as the
+// modes call it at every point.
+inline Color MixColors(Color first, Color second, double f) {
+    auto mix = [f](int a, int b) { return floorToInt(std::clamp(a + (b - a) * f, 0.0, 255.0)); };
+    return RGB(mix(RedOf(first), RedOf(second)), mix(GreenOf(first), GreenOf(second)),
+               mix(BlueOf(first), BlueOf(second)));
+}
+
 // The gradient lookup of modes 1 to 4 at t in [0, 1].
-Color GradientLookup(const GradientColors& g, double t);
+inline Color GradientLookup(const GradientColors& g, double t) {
+    const int c = GradientCount(g);
+    if (c < 2) return g.picColors[0];
+    // 0.99999 keeps t = 1 from indexing past the last colour.
+    const int k = floorToInt(0.99999 * (c - 1) * t);
+    const double f = std::clamp((c - 1) * t - k, 0.0, 1.0);
+    const int at = std::clamp(k, 0, c - 2);
+    return MixColors(g.picColors[static_cast<size_t>(at)], g.picColors[static_cast<size_t>(at + 1)], f);
+}
 
 // Modes 1 to 4: t from the attractor bounds, or from the fixed points of the maps, set up once.
 class GradientPosition {
   public:
     GradientPosition(int mode, const Workbench& wb, const IFSEntry& ifs, int n);
-    double t(float x, float y) const;
+    double t(float x, float y) const {
+        switch (mode_) {
+            case HeightColorMode:
+                return std::min(std::fabs((y - lo_) / range_), 1.0);
+            case WidthColorMode:
+                return std::min(std::fabs((x - lo_) / range_), 1.0);
+            case RadialColorMode: {
+                const double dx = x - cx_, dy = y - cy_;
+                return std::min(std::sqrt(dx * dx + dy * dy) / radius_, 1.0);
+            }
+            case FixedPointColorMode:
+                return fixedPointT(x, y);
+            default:
+                return 0;
+        }
+    }
     Color color(const GradientColors& g, float x, float y) const { return GradientLookup(g, t(x, y)); }
     const std::vector<std::array<double, 2>>& fixedPoints() const { return fixed_; }
 
   private:
+    double fixedPointT(float x, float y) const;
+    // The smallest and largest squared distance from (x, y) to the fixed points, starting from the
+    // values given.
+    void nearestAndFarthest(double x, double y, double& smallest, double& largest) const;
     int mode_;
     double lo_ = 0, range_ = 1;
     double cx_ = 0, cy_ = 0, radius_ = 1;
     std::vector<std::array<double, 2>> fixed_;
+    std::vector<double> fx_, fy_;  // the same, coordinate by coordinate, for the distance loop
 };
 
 // Mode 6: the visit counts of the cells of the window.
@@ -109,5 +157,23 @@ class StealingOrbit {
     ColorStealingState& cs_;
     float x_ = 0, y_ = 0;
 };
+
+// What a run in a colour mode sets up once, before its loop.
+struct RunColoring {
+    int mode = IFSColorMode;
+    GradientColors gradient;
+    std::optional<GradientPosition> position;        // modes 1 to 4
+    std::array<Color, GradientStripCount> strips{};  // mode 5
+    std::optional<VisitCounter> visits;              // mode 6
+    std::optional<StealingOrbit> orbit;              // mode 7
+
+    // The tile loop's colour step for the point (x, y) made by map i, whose own colour is mapColor. It
+    // runs at every iteration, warm-up included: mode 0 has no skip rule, mode 6 counts with no window
+    // test, mode 7 moves the colouring orbit. NoColor when the point takes no colour.
+    Color tileColor(Random& rng, int i, float x, float y, Color mapColor);
+};
+
+// The mode of the run (PlayGameColorMode) and its constants; mode 5 reseeds the generator once more.
+void PrepareRunColoring(Workbench& wb, FractalPictures& pics, int n, RunColoring& rc);
 
 }  // namespace quillane

@@ -48,7 +48,8 @@ std::vector<ColoringCandidate> ColoringIFSCandidates(const Workbench& wb) {
 }
 
 void ChooseColoringIFS(Workbench& wb, ColorStealingState& cs, const ColoringCandidate& choice) {
-    if (cs.chkTrace) cs.picTrace.clear();
+    // Clearing the trace takes off the dots; the picture under them stays.
+    if (cs.chkTrace) cs.picTrace = cs.picImage;
     if (choice.unitSquare) {
         cs.ColoringIFS = UnitSquareIFS(wb.CurrentIFS, wb.mapsFromText());
         scalePictures(cs);

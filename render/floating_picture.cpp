@@ -9,10 +9,7 @@
 
 namespace quillane {
 
-namespace {
-
-// Nearest-pixel stretch: every target pixel takes the source pixel its centre falls on.
-RasterSurface stretched(const RasterSurface& source, int width, int height) {
+RasterSurface StretchPicture(const RasterSurface& source, int width, int height) {
     RasterSurface out(width, height, source.backColor());
     if (source.width() <= 0 || source.height() <= 0) return out;
     for (int r = 0; r < height; ++r) {
@@ -24,6 +21,8 @@ RasterSurface stretched(const RasterSurface& source, int width, int height) {
     }
     return out;
 }
+
+namespace {
 
 // The world position of the centre of picfractal's pixel (column, row): it maps back to that pixel
 // whatever the rounding of the window.
@@ -62,7 +61,7 @@ void PicPasteResize(const PasteArea& a) {
     FloatingPicture& f = *a.Floating;
     f.Width = std::max(f.Width, 1);
     f.Height = std::max(f.Height, 1);
-    *a.picPaste = stretched(*a.picImagePaste, f.Width, f.Height);
+    *a.picPaste = StretchPicture(*a.picImagePaste, f.Width, f.Height);
 }
 
 void PicPasteResize(FractalPictures& pics) {

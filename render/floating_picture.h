@@ -31,6 +31,8 @@ struct PasteArea {
 };
 PasteArea FractalPasteArea(FractalPictures& pics);
 
+// Nearest-pixel stretch: every target pixel takes the source pixel its centre falls on.
+RasterSurface StretchPicture(const RasterSurface& source, int width, int height);
 // picPaste from picImagePaste, stretched to the floating size.
 void PicPasteResize(const PasteArea& a);
 void PicPasteResize(FractalPictures& pics);
@@ -39,8 +41,7 @@ void PicPasteResize(FractalPictures& pics);
 // height H and width (w / h) W when w is below h, width W and height (h / w) H when h is below w,
 // the whole area when they are equal. It is w against h that decides, not the area's proportions.
 void PasteTo(const PasteArea& a);
-// Takes `image` as the floating picture: at its own size when it fits the fractal picture, else
-// shrunk to fit with its proportions kept; centred.
+// Takes `image` as the floating picture over picfractal, placed by PasteTo.
 void FloatPicture(FractalPictures& pics, const RasterSurface& image);
 // The floating picture's corners (left, top) and (right, bottom) in world units, for picCoord.
 std::string PasteCornersText(const PasteArea& a);

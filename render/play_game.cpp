@@ -77,6 +77,54 @@ void warmUp(Random& rng, const RunMaps& m, const MapChoice& choice, Orbit& o, in
     }
 }
 
+// Pixel writes to both pictures that wait a few points behind a prefetch of their lines, so that cache
+// misses overlap instead of stalling the loop. Values are written in order, so the pictures end as
+// direct writes would leave them; flush() before anything reads them.
+class DelayedWrites {
+  public:
+    explicit DelayedWrites(const PlotTarget& t) : t_(t) {}
+    void push(size_t at, uint32_t value) {
+        __builtin_prefetch(t_.shown + at, 1);
+        __builtin_prefetch(t_.shadow + at, 1);
+        Pending& slot = pending_[head_ & (Delay - 1)];
+        if (head_ >= Delay) write(slot);
+        slot = {at, value};
+        ++head_;
+    }
+    void flush() {
+        for (uint32_t k = head_ > Delay ? head_ - Delay : 0; k < head_; ++k) write(pending_[k & (Delay - 1)]);
+        head_ = 0;
+    }
+
+  private:
+    struct Pending {
+        size_t at;
+        uint32_t value;
+    };
+    static constexpr uint32_t Delay = 16;
+    void write(const Pending& slot) {
+        t_.shown[slot.at] = slot.value;
+        t_.shadow[slot.at] = slot.value;
+    }
+    const PlotTarget& t_;
+    Pending pending_[Delay];
+    uint32_t head_ = 0;
+};
+
+// The pixel of world point (x, y) in the shared pictures: true with its place when it lies on them;
+// `overflow` set when its pixel position does not fit an integer.
+inline bool pixelAt(const PlotTarget& t, float x, float y, size_t& at, bool& overflow) {
+    const double tx = (static_cast<double>(x) - t.left) * t.sx;
+    const double ty = (static_cast<double>(y) - t.top) * t.sy;
+    // floor(t) lies in [0, size) exactly when t does, so no floor is needed here.
+    if (tx >= 0 && ty >= 0 && tx < t.width && ty < t.height) {
+        at = static_cast<size_t>(static_cast<int>(ty)) * t.stride + static_cast<size_t>(static_cast<int>(tx));
+        return true;
+    }
+    overflow = !(tx > -2147483649.0 && tx < 2147483648.0 && ty > -2147483649.0 && ty < 2147483648.0);
+    return false;
+}
+
 // Plotted iterations in colour mode 0 up to `stop`. Returns false on a point whose pixel position does
 // not fit an integer; that point is counted but not kept.
 bool plotLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const std::array<bool, MaxMaps>& skip,
@@ -84,39 +132,18 @@ bool plotLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const std:
     float x = o.x, y = o.y;
     int32_t count = o.count;
     bool ok = true;
-    struct Pending {
-        size_t at;
-        uint32_t value;
-    };
-    constexpr uint32_t Delay = 16;
-    Pending pending[Delay];
-    uint32_t head = 0;
+    DelayedWrites writes(t);
     while (count < stop) {
         const int i = choice.fast(rng.next32());
         ++count;
         const float nx = m.a[i] * x + m.b[i] * y + m.e[i];
         const float ny = m.c[i] * x + m.d[i] * y + m.f[i];
         if (!skip[i]) {
-            const double tx = (static_cast<double>(nx) - t.left) * t.sx;
-            const double ty = (static_cast<double>(ny) - t.top) * t.sy;
-            // floor(t) lies in [0, size) exactly when t does, so no floor is needed here.
-            if (tx >= 0 && ty >= 0 && tx < t.width && ty < t.height) {
-                const size_t at = static_cast<size_t>(static_cast<int>(ty)) * t.stride +
-                                  static_cast<size_t>(static_cast<int>(tx));
-                const uint32_t v = m.color[i] | 0xFF000000u;
-                // The writes wait a few points behind a prefetch of their lines, so that cache misses
-                // overlap instead of stalling the loop. Values are written in order.
-                __builtin_prefetch(t.shown + at, 1);
-                __builtin_prefetch(t.shadow + at, 1);
-                Pending& slot = pending[head & (Delay - 1)];
-                if (head >= Delay) {
-                    t.shown[slot.at] = slot.value;
-                    t.shadow[slot.at] = slot.value;
-                }
-                slot = {at, v};
-                ++head;
-            } else if (!(tx > -2147483649.0 && tx < 2147483648.0 && ty > -2147483649.0 &&
-                         ty < 2147483648.0)) {
+            size_t at = 0;
+            bool overflow = false;
+            if (pixelAt(t, nx, ny, at, overflow)) {
+                writes.push(at, m.color[i] | 0xFF000000u);
+            } else if (overflow) {
                 ok = false;
                 break;
             }
@@ -124,11 +151,7 @@ bool plotLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const std:
         x = nx;
         y = ny;
     }
-    for (uint32_t k = head > Delay ? head - Delay : 0; k < head; ++k) {
-        const Pending& slot = pending[k & (Delay - 1)];
-        t.shown[slot.at] = slot.value;
-        t.shadow[slot.at] = slot.value;
-    }
+    writes.flush();
     o = {x, y, count};
     return ok;
 }
@@ -182,6 +205,7 @@ bool colorLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const Plo
     float x = o.x, y = o.y;
     int32_t count = o.count;
     bool ok = true;
+    DelayedWrites writes(t);
     try {
         while (count < stop) {
             const int i = choice.fast(rng.next32());
@@ -191,15 +215,11 @@ bool colorLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const Plo
             const Color c = colorOf(rng, i, nx, ny);
             if (c != NoColor) {
                 if (t.shared) {
-                    const double tx = (static_cast<double>(nx) - t.left) * t.sx;
-                    const double ty = (static_cast<double>(ny) - t.top) * t.sy;
-                    if (tx >= 0 && ty >= 0 && tx < t.width && ty < t.height) {
-                        const size_t at = static_cast<size_t>(static_cast<int>(ty)) * t.stride +
-                                          static_cast<size_t>(static_cast<int>(tx));
-                        t.shown[at] = (c & 0xFFFFFFu) | 0xFF000000u;
-                        t.shadow[at] = (c & 0xFFFFFFu) | 0xFF000000u;
-                    } else if (!(tx > -2147483649.0 && tx < 2147483648.0 && ty > -2147483649.0 &&
-                                 ty < 2147483648.0)) {
+                    size_t at = 0;
+                    bool overflow = false;
+                    if (pixelAt(t, nx, ny, at, overflow)) {
+                        writes.push(at, (c & 0xFFFFFFu) | 0xFF000000u);
+                    } else if (overflow) {
                         ok = false;
                         break;
                     }
@@ -214,19 +234,10 @@ bool colorLoop(Random& rng, const RunMaps& m, const MapChoice& choice, const Plo
     } catch (const SurfaceOverflow&) {
         ok = false;
     }
+    writes.flush();
     o = {x, y, count};
     return ok;
 }
-
-// What a run of colour modes 1 to 7 sets up once, before its loop.
-struct RunColoring {
-    int mode = IFSColorMode;
-    GradientColors gradient;
-    std::optional<GradientPosition> position;        // modes 1 to 4
-    std::array<Color, GradientStripCount> strips{};  // mode 5
-    std::optional<VisitCounter> visits;              // mode 6
-    std::optional<StealingOrbit> orbit;              // mode 7
-};
 
 // Colour modes 1 to 7 from the current PointCount to `stop`; the caller yields.
 void coloredLoop(Workbench& wb, FractalPictures& pics, const RunMaps& m, const MapChoice& choice,
@@ -271,33 +282,6 @@ void coloredLoop(Workbench& wb, FractalPictures& pics, const RunMaps& m, const M
     wb.PlotX = o.x;
     wb.PlotY = o.y;
     if (!ok) throw SurfaceOverflow();
-}
-
-// The constants of the run's colour mode, set up once before the loop.
-void prepareColoring(Workbench& wb, FractalPictures& pics, const RunMaps& maps, RunColoring& rc) {
-    rc.mode = PlayGameColorMode(wb, pics);
-    rc.gradient = wb.Gradient;
-    rc.gradient.GradientColorCount = GradientCount(rc.gradient);
-    switch (rc.mode) {
-        case HeightColorMode:
-        case WidthColorMode:
-        case RadialColorMode:
-        case FixedPointColorMode:
-            rc.position.emplace(rc.mode, wb, wb.CurrentIFS, maps.n);
-            break;
-        case RandomColorMode:
-            rc.strips = GradientStrips(rc.gradient);
-            wb.Rng.Randomize();
-            break;
-        case VisitCountColorMode:
-            rc.visits.emplace(wb.HitCount, wb.Window, pics.picfractal.width(), rc.gradient);
-            break;
-        case StealingColorMode:
-            rc.orbit.emplace(pics.Stealing);
-            break;
-        default:
-            break;
-    }
 }
 
 void restartPictures(Workbench& wb, FractalPictures& pics) {
@@ -371,7 +355,7 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
     pics.Selection.SelectionActive = false;
     const MapChoice choice(MapChoice::CumProb(maps.p.data(), maps.n));
     RunColoring coloring;
-    prepareColoring(wb, pics, maps, coloring);
+    PrepareRunColoring(wb, pics, maps.n, coloring);
     wb.FractalWindowCaption = PressQCaption;
     wb.DrawingStarted = true;
     wb.DrawingActive = true;
@@ -389,7 +373,8 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
             nextYield += static_cast<int32_t>(((50 - nextYield) % 100 + 100) % 100);
             const int32_t stop = nextYield < limit ? nextYield : limit;
             // The complex bases dialog and the tiling settings window will hand over to their own loops
-            // here; the tile loop counts visits with VisitCounter::tileColor, warm-up included.
+            // here; the tile loop takes each iteration's colour, warm-up included, from
+            // RunColoring::tileColor, which holds every difference of its colour step.
             if (coloring.mode == IFSColorMode)
                 plainLoop(wb, pics, maps, choice, skip, target, stop);
             else

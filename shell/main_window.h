@@ -56,6 +56,11 @@ class MainWindow : public QMainWindow {
     // has its own.
     void setArrayCommand(const std::string& name, ArrayCommand command, int firstIndex = 0);
     bool hasCommand(const std::string& key) const;
+    // The command of a plain key, or an empty one, so that a later registration can extend it.
+    Command command(const std::string& key) const {
+        const auto it = commands_.find(key);
+        return it == commands_.end() ? Command{} : it->second;
+    }
     // Runs the item's command, then shows the new state in the windows and the menus.
     void runCommand(const std::string& key);
 
