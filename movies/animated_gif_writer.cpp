@@ -41,8 +41,7 @@ bool setLongTag(FIBITMAP* dib, const char* key, int32_t value) {
     LONG v = value;
     const bool ok = FreeImage_SetTagKey(tag, key) && FreeImage_SetTagType(tag, FIDT_LONG) &&
                     FreeImage_SetTagCount(tag, 1) && FreeImage_SetTagLength(tag, sizeof(LONG)) &&
-                    FreeImage_SetTagValue(tag, &v) &&
-                    FreeImage_SetMetadata(FIMD_ANIMATION, dib, key, tag);
+                    FreeImage_SetTagValue(tag, &v) && FreeImage_SetMetadata(FIMD_ANIMATION, dib, key, tag);
     FreeImage_DeleteTag(tag);
     return ok;
 }
@@ -153,7 +152,8 @@ bool AnimatedGifWriter::close() {
     writeMs_ += msSince(start);
     std::error_code ec;
     if (!written || failed_ || pages_ == 0) {
-        if (error_.empty()) error_ = pages_ == 0 ? "The movie has no frames." : "The movie could not be written.";
+        if (error_.empty())
+            error_ = pages_ == 0 ? "The movie has no frames." : "The movie could not be written.";
         fs::remove(temporary_, ec);
         return false;
     }

@@ -10,15 +10,15 @@ namespace quillane {
 
 struct GifFrame {
     int32_t Left = 0, Top = 0, Width = 0, Height = 0;
-    int32_t Delay = 0;        // milliseconds: the file's delay word times 10
-    int32_t TableIndex = 0;   // the colour table in use; 0 is the global one
+    int32_t Delay = 0;       // milliseconds: the file's delay word times 10
+    int32_t TableIndex = 0;  // the colour table in use; 0 is the global one
     uint8_t TransparentIndex = 0;
     uint8_t Transparent = 0;  // 1 if the transparent index is valid
     uint8_t Disposal = 0;     // from the graphic control flags
     bool Interlaced = false;
     // The image block in the file: from its "," to the end of its data sub-blocks.
     size_t Offset = 0, Length = 0;
-    size_t DataOffset = 0;    // the LZW code size byte
+    size_t DataOffset = 0;  // the LZW code size byte
 };
 
 // Up to 256 colours as R + 256 G + 65536 B; Count entries used.
@@ -34,10 +34,10 @@ struct GifFile {
     std::vector<GifColorTable> Tables;
     bool HasGlobalTable = false;
     uint8_t BackgroundIndex = 0;
-    int32_t Loops = 0;     // from the NETSCAPE block; 0 means endless
+    int32_t Loops = 0;  // from the NETSCAPE block; 0 means endless
     bool LoopsGiven = false;
     int32_t CanvasWidth = 0, CanvasHeight = 0;  // the largest Left + Width and Top + Height
-    bool Truncated = false;  // the reading ended at the end of the data
+    bool Truncated = false;                     // the reading ended at the end of the data
 
     bool empty() const { return Frames.empty(); }
 };

@@ -16,14 +16,14 @@
 namespace quillane {
 
 struct MorphMovieOptions {
-    int size = 400;  // picMovie: both sides, in pixels
+    int size = 400;              // picMovie: both sides, in pixels
     int32_t iterations = 10000;  // txtIterations
     int32_t frameTime = 100;     // txtTime, milliseconds
     int32_t loop = 0;            // txtLoop; 0 repeats indefinitely
     std::string path;
     FunctionColors colors{};
     Color back = White;
-    WorldWindow view;            // FractalView
+    WorldWindow view;  // FractalView
 };
 
 struct MovieTimes {

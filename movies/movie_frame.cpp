@@ -11,14 +11,14 @@ namespace {
 
 // The map of each draw u = Round(Rnd, 4), as a table over the 10001 values u can take.
 std::vector<uint8_t> mapTable(const IFSEntry& probabilities, int maps) {
-    std::vector<uint8_t> table(10001, static_cast<uint8_t>(maps));
+    std::vector<uint8_t> table(10001, static_cast<uint8_t>(maps - 1));
     float sum = 0;
-    int map = 1;
-    std::vector<float> cumulative(static_cast<size_t>(maps) + 1, 0);
-    for (int i = 1; i <= maps; ++i) cumulative[static_cast<size_t>(i)] = sum += probabilities.p[i];
+    int map = 0;
+    std::vector<float> cumulative(static_cast<size_t>(maps), 0);
+    for (int i = 0; i < maps; ++i) cumulative[static_cast<size_t>(i)] = sum += probabilities.p[i];
     for (int k = 0; k <= 10000; ++k) {
         const double u = k / 10000.0;
-        while (map < maps && !(u <= cumulative[static_cast<size_t>(map)])) ++map;
+        while (map < maps - 1 && !(u <= cumulative[static_cast<size_t>(map)])) ++map;
         table[static_cast<size_t>(k)] = static_cast<uint8_t>(map);
     }
     return table;
@@ -83,7 +83,7 @@ void DrawMovieFrame(RasterSurface& picture, const IFSEntry& frame, const IFSEntr
 WorldWindow MovieBounds(const IFSEntry& ifs, int maps, const std::vector<WorldPoint>& figure) {
     float xmin = 1e30f, xmax = -1e30f, ymin = 1e30f, ymax = -1e30f;
     bool any = false;
-    for (int i = 1; i <= maps && i <= MaxMaps; ++i)
+    for (int i = 0; i < maps && i < MaxMaps; ++i)
         for (const WorldPoint& v : figure) {
             if (v.x >= PenLift || v.y >= PenLift) continue;
             const float x = static_cast<float>(ifs.a[i] * v.x + ifs.b[i] * v.y + ifs.e[i]);

@@ -10,7 +10,7 @@ namespace {
 
 // Every entry of a map beyond the IFS's own count is zero, so the extra maps grow out of a point.
 void padTo(IFSEntry& ifs, int maps) {
-    for (int i = ifs.nMaps + 1; i <= maps && i <= MaxMaps; ++i) {
+    for (int i = ifs.nMaps; i < maps && i < MaxMaps; ++i) {
         ifs.a[i] = ifs.b[i] = ifs.c[i] = ifs.d[i] = ifs.e[i] = ifs.f[i] = 0;
         ifs.p[i] = 0;
     }
@@ -57,9 +57,9 @@ void startFrameIFS(MovieMorph& m) {
 }
 
 void rotationFrame(MovieMorph& m, float t) {
-    const int k = std::clamp(m.RotateMap, 1, std::max(m.MovieMaps, 1));
+    const int k = std::clamp(m.RotateMap, 0, std::max(m.MovieMaps - 1, 0));
     const FormsTable& F = m.InitialForms;
-    for (int i = 1; i <= m.MovieMaps; ++i) {
+    for (int i = 0; i < m.MovieMaps; ++i) {
         float theta = F[3][i], phi = F[4][i], e = F[5][i], f = F[6][i];
         if (i == k) {
             const float w = t * 360.0f * static_cast<float>(m.RotDir);
@@ -78,7 +78,7 @@ void rotationFrame(MovieMorph& m, float t) {
 }  // namespace
 
 void FillForms(FormsTable& forms, const IFSEntry& ifs, int maps, bool anglesPositive) {
-    for (int i = 1; i <= maps && i <= MaxMaps; ++i) {
+    for (int i = 0; i < maps && i < MaxMaps; ++i) {
         const double a = ifs.a[i], b = ifs.b[i], c = ifs.c[i], d = ifs.d[i];
         double theta = thetaOf(a, c), phi = phiOf(b, d);
         if (anglesPositive) {
@@ -123,7 +123,7 @@ void ComputeFrameIFS(MovieMorph& m, float t) {
     }
     if (m.Method == MorphMethod::AverageScalings) {
         const FormsTable &I = m.InitialForms, &F = m.FinalForms;
-        for (int i = 1; i <= m.MovieMaps; ++i) {
+        for (int i = 0; i < m.MovieMaps; ++i) {
             float v[7];
             for (int row = 1; row <= 6; ++row) v[row] = lerp(I[row][i], F[row][i], t);
             matrixFromForms(m.FrameIFS, i, v[1], v[2], v[3], v[4], v[5], v[6]);
@@ -132,7 +132,7 @@ void ComputeFrameIFS(MovieMorph& m, float t) {
     }
     const IFSEntry &I = m.InitialIFS, &F = m.FinalIFS;
     IFSEntry& out = m.FrameIFS;
-    for (int i = 1; i <= m.MovieMaps; ++i) {
+    for (int i = 0; i < m.MovieMaps; ++i) {
         out.a[i] = lerp(I.a[i], F.a[i], t);
         out.b[i] = lerp(I.b[i], F.b[i], t);
         out.c[i] = lerp(I.c[i], F.c[i], t);

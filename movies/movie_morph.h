@@ -20,11 +20,11 @@ struct MovieMorph {
     FormsTable InitialForms{}, FinalForms{};
     IFSEntry FrameIFS;
     int nTransitions = 10;
-    bool SameIFS = false;          // List1 and List2 at the same position: the rotation movie
-    bool AnglesPositive = false;   // mnuOptionsAngles
+    bool SameIFS = false;         // List1 and List2 at the same position: the rotation movie
+    bool AnglesPositive = false;  // mnuOptionsAngles
     MorphMethod Method = MorphMethod::AverageScalings;
-    int RotateMap = 1;             // cmbRotate, counted from 1
-    int RotDir = 1;                // 1 counterclockwise, -1 clockwise
+    int RotateMap = 0;  // cmbRotate's list index: maps count from 0 as in the IFS
+    int RotDir = 1;     // 1 counterclockwise, -1 clockwise
     // The current initial figure: the triangle preset's three vertices when it is in use.
     bool TriangleFigure = false;
     std::array<WorldPoint, 3> Triangle{};

@@ -1,13 +1,13 @@
 #pragma once
 // Helpers of the movie tests: a fresh folder, an independent GIF tool and its answers.
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 namespace quillane::testing {
 
