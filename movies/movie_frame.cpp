@@ -115,6 +115,33 @@ WorldWindow FitMovieView(const IFSEntry& initial, const IFSEntry& final, int map
     return squared(u);
 }
 
+namespace {
+
+// Points of the orbit of (0, 0) after a warm-up, with the probabilities of the IFS itself.
+std::vector<WorldPoint> orbitSample(const IFSEntry& ifs, int maps, Random& rng) {
+    std::vector<WorldPoint> points;
+    if (maps <= 0) return points;
+    const std::vector<uint8_t> table = mapTable(ifs, std::min(maps, MaxMaps));
+    float x = 0, y = 0;
+    for (int n = 1; n <= 5000; ++n) {
+        const int i = table[static_cast<size_t>(roundedDraw(rng.next32()))];
+        const float nx = ifs.a[i] * x + ifs.b[i] * y + ifs.e[i];
+        y = ifs.c[i] * x + ifs.d[i] * y + ifs.f[i];
+        x = nx;
+        if (n > MovieWarmUpPoints) points.push_back({x, y});
+    }
+    return points;
+}
+
+}  // namespace
+
+WorldWindow FitMovieViewToAttractors(const IFSEntry& initial, const IFSEntry& final, int maps, Random& rng) {
+    const WorldWindow a = MovieBounds(initial, maps, orbitSample(initial, maps, rng));
+    const WorldWindow b = MovieBounds(final, maps, orbitSample(final, maps, rng));
+    return squared({std::min(a.xmin, b.xmin), std::max(a.xmax, b.xmax), std::min(a.ymin, b.ymin),
+                    std::max(a.ymax, b.ymax)});
+}
+
 void ApplyMovieView(RasterSurface& picture, const WorldWindow& view) {
     picture.setScale(view.xmin, view.ymax, view.xmax, view.ymin);
 }

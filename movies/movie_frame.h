@@ -26,6 +26,9 @@ WorldWindow SquareWithMargin(const WorldWindow& w);
 // The view of the whole movie: the union of both IFS's fitted views, squared again.
 WorldWindow FitMovieView(const IFSEntry& initial, const IFSEntry& final, int maps,
                          const std::vector<WorldPoint>& figure);
+// The fitted view of each IFS taken from points of its own attractor instead of a figure's vertices,
+// for movies whose attractors reach far beyond the images of the figure.
+WorldWindow FitMovieViewToAttractors(const IFSEntry& initial, const IFSEntry& final, int maps, Random& rng);
 // Gives a picture the view: left xmin, top ymax, right xmax, bottom ymin.
 void ApplyMovieView(RasterSurface& picture, const WorldWindow& view);
 
