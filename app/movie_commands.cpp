@@ -97,6 +97,7 @@ void DrawMovieFrameInWindow(MovieCreator& mc, AppState& s, int frame) {
     if (mc.ShowDesigns) drawFrameDesign(mc, s.wb);
     mc.play.CurrentFrame = frame;
     mc.txtFrame = std::to_string(frame);
+    if (mc.FrameShown) mc.FrameShown();
 }
 
 void MovieListClick(MovieCreator& mc, AppState& s, Host&) {

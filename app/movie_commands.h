@@ -1,6 +1,7 @@
 #pragma once
 // The movie commands: the Fractal Movie Creator (morph and rotation movies), the deterministic movie
 // and what they hand to the movie viewer. No windows here: the shell's faces call these.
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -67,6 +68,8 @@ struct MovieCreator {
     int SizeDim = 300;        // picCanvas and picdesign side in pixels
     RasterSurface picCanvas, picdesign;
     bool MovieExists = false;
+    // Called after each frame is drawn, so a window shows it before the next yield.
+    std::function<void()> FrameShown;
 };
 
 // The names the two lists show: the entries of the fractal list.
