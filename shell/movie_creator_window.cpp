@@ -31,6 +31,8 @@ MovieCreatorWindow::MovieCreatorWindow(AppState& s, Host& host,
     list1_->setObjectName("List1");
     list2_ = new QListWidget(this);
     list2_->setObjectName("List2");
+    list1_->setMinimumWidth(180);
+    list2_->setMinimumWidth(180);
     txtSteps_ = new QLineEdit(QString::fromStdString(mc_.txtSteps), this);
     txtIterations_ = new QLineEdit(QString::fromStdString(mc_.txtIterations), this);
     txtFrame_ = new QLineEdit(this);
@@ -177,6 +179,9 @@ void MovieCreatorWindow::reload() {
     mc_.txtSteps = txtSteps_->text().toStdString();
     mc_.txtIterations = txtIterations_->text().toStdString();
     mc_.FrameShown = [this] { showPictures(); };
+    // Blank pictures hold the place of the frame and its design until a movie is chosen.
+    mc_.picCanvas.resize(mc_.SizeDim, mc_.SizeDim);
+    mc_.picdesign.resize(mc_.SizeDim, mc_.SizeDim);
     lblRotate_->setVisible(false);
     cmbRotate_->setVisible(false);
     showPictures();
