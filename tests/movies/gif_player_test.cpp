@@ -142,6 +142,28 @@ TEST(GifReader, ATruncatedFileKeepsTheFramesReadSoFarAndStillPlays) {
     }
 }
 
+TEST(GifReader, DamagedBytesAnywhereNeitherCrashNorHang) {
+    const fs::path dir = freshFolder("damaged");
+    const fs::path gif = dir / "noise.gif";
+    run("convert -size 40x30 plasma:fractal -seed 5 -delay 5 -size 40x30 plasma:fractal '" + gif.string() +
+        "'");
+    const std::vector<uint8_t> whole = readBytes(gif);
+    ASSERT_GT(whole.size(), 100u);
+    uint32_t h = 12345;
+    for (int trial = 0; trial < 300; ++trial) {
+        std::vector<uint8_t> bytes = whole;
+        for (int k = 0; k < 4; ++k) {
+            h = h * 1664525u + 1013904223u;
+            bytes[13 + h % (bytes.size() - 13)] = static_cast<uint8_t>(h >> 24);
+        }
+        const GifFile g = ReadGifBytes(bytes);
+        GifCanvas c;
+        c.reset(&g, White);
+        for (int k = 1; k <= static_cast<int>(g.Frames.size()); ++k) c.frame(k);
+        EXPECT_LE(g.Frames.size(), whole.size());
+    }
+}
+
 TEST(GifReader, AFileThatIsNotAGifLeavesThePlayerEmpty) {
     const fs::path dir = freshFolder("notgif");
     run("convert -size 8x8 xc:red '" + (dir / "red.png").string() + "'");
