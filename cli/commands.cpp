@@ -12,6 +12,7 @@
 #include "app/figure_commands.h"
 #include "app/ifs_file_reader.h"
 #include "cli/cli_host.h"
+#include "cli/figures.h"
 #include "cli/list_input.h"
 #include "core/fractal_list.h"
 #include "core/ifs_file_writer.h"
@@ -33,34 +34,6 @@ namespace {
 
 bool endsWith(const std::string& s, const std::string& tail) {
     return s.size() >= tail.size() && s.compare(s.size() - tail.size(), tail.size(), tail) == 0;
-}
-
-
-// The command line's initial sets, drawn in DetSingleColor into picfractal and picImage3 alike.
-void drawFigure(RasterSurface& s, const std::string& figure, Color c) {
-    const std::vector<WorldPoint> square{{0, 0}, {1, 0}, {1, 1}, {0, 1}};
-    if (figure == "polygon") s.polygon(square, c, false);
-    if (figure == "square") s.polygon(square, c, true);
-    if (figure == "triangle") s.polygon({{0, 0}, {1, 0}, {0.5, 1}}, c, true);
-    if (figure == "line") s.line(0, 0, 1, 0, c);
-    if (figure == "circle") s.circle(0.5, 0.5, 0.5, c, true);
-}
-
-DetFigureDrawer figureDrawer(const std::string& figure) {
-    return [figure](Workbench& wb, FractalPictures& pics, Host&, int, bool, bool ResetWindow) {
-        if (ResetWindow) {
-            // The figure lies in the unit square; the window grows to hold it.
-            const WorldWindow w = wb.Window;
-            SetUpDeterministicWindow(wb, pics, std::min(w.xmin, 0.0f), std::max(w.xmax, 1.0f),
-                                     std::min(w.ymin, 0.0f), std::max(w.ymax, 1.0f), false);
-        }
-        pics.picImage3.setBackColor(pics.picfractal.backColor());
-        pics.picImage3.clear();
-        pics.picfractal.clear();
-        drawFigure(pics.picfractal, figure, pics.Det.DetSingleColor);
-        drawFigure(pics.picImage3, figure, pics.Det.DetSingleColor);
-        return true;
-    };
 }
 
 // The --initial picture floats over the drawing as if pasted, and is placed at once.
@@ -153,7 +126,7 @@ bool setUpStealing(Workbench& wb, FractalPictures& pics, const RenderOptions& r)
 
 int renderDeterministic(Workbench& wb, FractalPictures& pics, CliHost& host, const RenderOptions& r) {
     wb.Menu.setChecked(MenuTable::key("mnuColors", 0), true);
-    pics.Det.FigureDrawer = figureDrawer(r.figure);
+    pics.Det.FigureDrawer = FigureDrawerFor(r.figure);
     wb.DetFigure = -1;  // the figure is chosen now, with the IFS colour scheme
     mnuDrawType_Click(wb, pics, host, 1);
     checkColorMode(wb, pics, r.colorMode);

@@ -18,8 +18,8 @@ bool ReadList(Workbench& wb, CliHost& host, const std::string& file) {
 
 bool TakeEntry(Workbench& wb, CliHost& host, const std::string& file, int entry) {
     if (entry > wb.ListCount()) {
-        std::cerr << "--entry must be from 1 to " << wb.ListCount() << ": " << file << " has " << wb.ListCount()
-                  << (wb.ListCount() == 1 ? " entry" : " entries") << "\n";
+        std::cerr << "--entry must be from 1 to " << wb.ListCount() << ": " << file << " has "
+                  << wb.ListCount() << (wb.ListCount() == 1 ? " entry" : " entries") << "\n";
         return false;
     }
     return TakeListEntry(wb, host, entry);

@@ -30,6 +30,10 @@ int main(int argc, char** argv) {
                 return RunBench(cmd);
             case Command::Print:
                 return RunPrint(cmd.print);
+            case Command::Movie:
+                return RunMovie(cmd.movie);
+            case Command::GifInfo:
+                return RunGifInfo(cmd.files[0]);
         }
     } catch (const std::exception& e) {
         std::cerr << "quillane-cli: " << e.what() << "\n";

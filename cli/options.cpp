@@ -52,6 +52,21 @@ const char* const UsageText =
     "      file when given. steal paints with the colours of PICTURE under a second orbit,\n"
     "      of the unit-square colouring IFS or of entry ENTRY of FILE. With --deterministic\n"
     "      visits and steal are not offered, and random draws in one colour.\n"
+    "  movie A.ifs[:N] B.ifs[:M] [--frames K] [--points P] [--size S] [--delay MS]\n"
+    "        [--loop L] [--method 1|2|3] [--cycle] [--seed S] -o OUT.gif\n"
+    "      The transformation movie from entry N of A to entry M of B (default 1) as an\n"
+    "      animated GIF: K frames (default 50), each P points (default 50000) of random\n"
+    "      drawing in a square of S pixels (default 400), MS milliseconds a frame (default\n"
+    "      100), L plays (default 0, endless). --method 1 averages scalings and rotations\n"
+    "      (the default), 2 averages the matrices, 3 is 1 with all angles taken positive.\n"
+    "      --cycle runs back to the first frame. The same entry twice is the rotation\n"
+    "      movie: map --rotate MAP (default 1) turns through a full circle, counterclockwise\n"
+    "      unless --clockwise.\n"
+    "  movie --deterministic FILE[:N] [--levels L] [--figure polygon|line|triangle|square|circle]\n"
+    "        [--size S] [--delay MS] [--loop L] -o OUT.gif\n"
+    "      One page for the figure and one per deterministic level (default 5).\n"
+    "  gif-info FILE.gif\n"
+    "      Prints the frame table and loop count of a GIF as the movie viewer reads it.\n"
     "  --bench [--points N] [--size PIXELS] [--colors MODE]\n"
     "      Measures the random drawing engine with 3 and 100 maps, in colour mode MODE.\n"
     "  --help\n"
@@ -140,7 +155,8 @@ ParseResult parseRender(const std::vector<std::string>& args) {
         std::string v;
         long long n = 0;
         if (a == "--entry") {
-            if (!value(v) || !ParseWholeNumber(v, 1, 999999999, n)) return usage("--entry needs a positive number");
+            if (!value(v) || !ParseWholeNumber(v, 1, 999999999, n))
+                return usage("--entry needs a positive number");
             r.entry = static_cast<int>(n);
         } else if (a == "--points") {
             if (!value(v) || !ParseWholeNumber(v, 1, 999999950, n))
@@ -151,7 +167,8 @@ ParseResult parseRender(const std::vector<std::string>& args) {
                 return usage("--size needs a number of pixels from 1 to 20000");
             r.size = static_cast<int>(n);
         } else if (a == "--seed") {
-            if (!value(v) || !ParseWholeNumber(v, 0, INT64_MAX, n)) return usage("--seed needs a whole number");
+            if (!value(v) || !ParseWholeNumber(v, 0, INT64_MAX, n))
+                return usage("--seed needs a whole number");
             r.seed = static_cast<uint64_t>(n);
         } else if (a == "--window") {
             WorldWindow w;
@@ -161,7 +178,8 @@ ParseResult parseRender(const std::vector<std::string>& args) {
         } else if (a == "--deterministic") {
             r.deterministic = true;
         } else if (a == "--levels") {
-            if (!value(v) || !ParseWholeNumber(v, 0, 100, n)) return usage("--levels needs a number from 0 to 100");
+            if (!value(v) || !ParseWholeNumber(v, 0, 100, n))
+                return usage("--levels needs a number from 0 to 100");
             r.levels = static_cast<int>(n);
             levelsGiven = true;
         } else if (a == "--figure") {
@@ -264,6 +282,19 @@ ParseResult ParseCommandLine(const std::vector<std::string>& args) {
         Command cmd;
         cmd.kind = Command::Print;
         if (auto bad = ParsePrintOptions(args, cmd.print)) return usage(*bad);
+        return {cmd, ""};
+    }
+    if (c == "movie") {
+        Command cmd;
+        cmd.kind = Command::Movie;
+        if (auto bad = ParseMovieOptions(args, cmd.movie)) return usage(*bad);
+        return {cmd, ""};
+    }
+    if (c == "gif-info") {
+        if (args.size() != 2) return usage("gif-info takes one FILE.gif");
+        Command cmd;
+        cmd.kind = Command::GifInfo;
+        cmd.files = {args[1]};
         return {cmd, ""};
     }
     if (c == "--bench" || c == "bench") return parseBench(args);

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/movie_command.h"
 #include "cli/print_command.h"
 #include "core/workbench.h"
 
@@ -47,11 +48,12 @@ struct BenchOptions {
 };
 
 struct Command {
-    enum Kind { Help, List, Save, Render, Bench, Print } kind = Help;
+    enum Kind { Help, List, Save, Render, Bench, Print, Movie, GifInfo } kind = Help;
     std::vector<std::string> files;  // list: FILE; save: IN OUT
     RenderOptions render;
     BenchOptions bench;
     PrintOptions print;
+    MovieOptions movie;
 };
 
 // The parsed command, or the text of a usage error.

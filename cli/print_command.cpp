@@ -64,20 +64,28 @@ std::optional<std::string> ParsePrintOptions(const std::vector<std::string>& arg
             if (!value(v)) return "--what needs text, fractal or design";
             p.text = p.fractal = p.design = false;
             for (const std::string& item : items(v)) {
-                if (item == "text") p.text = true;
-                else if (item == "fractal") p.fractal = true;
-                else if (item == "design") p.design = true;
-                else return "--what takes text, fractal and design, separated by commas";
+                if (item == "text")
+                    p.text = true;
+                else if (item == "fractal")
+                    p.fractal = true;
+                else if (item == "design")
+                    p.design = true;
+                else
+                    return "--what takes text, fractal and design, separated by commas";
             }
             whatGiven = true;
         } else if (a == "--text") {
             if (!value(v)) return "--text needs matrix, rotation or rules";
             p.parts = {false, false, false};
             for (const std::string& item : items(v)) {
-                if (item == "matrix") p.parts.matrix = true;
-                else if (item == "rotation") p.parts.rotation = true;
-                else if (item == "rules") p.parts.chaosGame = true;
-                else return "--text takes matrix, rotation and rules, separated by commas";
+                if (item == "matrix")
+                    p.parts.matrix = true;
+                else if (item == "rotation")
+                    p.parts.rotation = true;
+                else if (item == "rules")
+                    p.parts.chaosGame = true;
+                else
+                    return "--text takes matrix, rotation and rules, separated by commas";
             }
             p.partsGiven = true;
         } else if (a == "--side-by-side") {
@@ -88,10 +96,12 @@ std::optional<std::string> ParsePrintOptions(const std::vector<std::string>& arg
             if (!value(v) || !ParseWholeNumber(v, 1, 10, n)) return "--inches needs a number from 1 to 10";
             p.sideInches = static_cast<double>(n);
         } else if (a == "--points") {
-            if (!value(v) || !ParseWholeNumber(v, 1, 999999950, n)) return "--points needs a number from 1 to 999999950";
+            if (!value(v) || !ParseWholeNumber(v, 1, 999999950, n))
+                return "--points needs a number from 1 to 999999950";
             p.points = static_cast<int>(n);
         } else if (a == "--size") {
-            if (!value(v) || !ParseWholeNumber(v, 1, 4000, n)) return "--size needs a number of pixels from 1 to 4000";
+            if (!value(v) || !ParseWholeNumber(v, 1, 4000, n))
+                return "--size needs a number of pixels from 1 to 4000";
             p.size = static_cast<int>(n);
         } else if (a == "--seed") {
             if (!value(v) || !ParseWholeNumber(v, 0, INT64_MAX, n)) return "--seed needs a whole number";
@@ -155,7 +165,8 @@ int RunPrint(const PrintOptions& p) {
         DesignScale(wb, design);
     }
     PdfPrinter printer(p.output);
-    if (!PrintIFS(wb, pics.picfractal, design.shownPicture(wb.DesignMode == 1), r, host, printer, nullptr)) return 1;
+    if (!PrintIFS(wb, pics.picfractal, design.shownPicture(wb.DesignMode == 1), r, host, printer, nullptr))
+        return 1;
     return host.warnings == 0 ? 0 : 1;
 }
 

@@ -19,6 +19,7 @@
 #include "app/design_view.h"
 #include "shell/code_commands.h"
 #include "shell/color_commands.h"
+#include "shell/movie_commands.h"
 #include "shell/print_commands.h"
 #include "shell/settings_location.h"
 #include "shell/chaos_commands.h"
@@ -95,6 +96,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterHelpCommands(*this);
     RegisterColorCommands(*this);
     RegisterPreviewCommands(*this);
+    RegisterMovieCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);

@@ -159,5 +159,26 @@ check "bench in a colour mode" status 0 "$cli" --bench --points 20000 --size 64 
 check "bench names its mode" grep -q "random engine, visits colours,   3 maps" "$work/out"
 check "bench with an unknown mode is bad usage" status 2 "$cli" --bench --colors plaid
 
+# Movies: the morph, the rotation movie and the deterministic movie as GIFs, read back by gif-info and
+# by an independent reader.
+check "movie without -o is bad usage" status 2 "$cli" movie "$data/default.ifs:1" "$data/default.ifs:3"
+check "movie with one file is bad usage" status 2 "$cli" movie "$data/default.ifs:1" -o "$work/m.gif"
+check "--rotate of two IFS is bad usage" status 2 "$cli" movie "$data/default.ifs:1" "$data/default.ifs:3" --rotate 2 -o "$work/m.gif"
+check "--method 4 is bad usage" status 2 "$cli" movie "$data/default.ifs:1" "$data/default.ifs:3" --method 4 -o "$work/m.gif"
+check "morph movie" status 0 "$cli" movie "$data/default.ifs:1" "$data/default.ifs:3" --frames 6 --points 2000 --size 80 --delay 70 --loop 2 -o "$work/m.gif"
+check "morph has six frames of 7 cs" test "$(identify -format '%T ' "$work/m.gif")" = "7 7 7 7 7 7 "
+check "gif-info reads the morph" status 0 "$cli" gif-info "$work/m.gif"
+check "gif-info names size, frames and loops" grep -q "80 x 80, 6 frames, loops 1" "$work/out"
+check "gif-info has a line per frame" test "$(grep -c "^[0-9]" "$work/out")" -eq 6
+check "rotation movie" status 0 "$cli" movie "$data/default.ifs:3" "$data/default.ifs:3" --rotate 3 --frames 5 --points 2000 --size 60 -o "$work/r.gif"
+check "rotation --rotate beyond the maps" status 1 "$cli" movie "$data/default.ifs:3" "$data/default.ifs:3" --rotate 9 -o "$work/r9.gif"
+check "no movie file after a failure" test ! -e "$work/r9.gif"
+check "cycling movie doubles the frames" status 0 "$cli" movie "$data/default.ifs:1" "$data/default.ifs:2" --frames 3 --cycle --points 1000 --size 60 -o "$work/c.gif"
+check "cycling movie frame count" test "$(identify -format '%T ' "$work/c.gif" | wc -w)" -eq 6
+check "deterministic movie" status 0 "$cli" movie --deterministic "$data/default.ifs:3" --levels 4 --figure square --size 64 -o "$work/d.gif"
+check "deterministic movie pages" test "$(identify -format '%T ' "$work/d.gif" | wc -w)" -eq 5
+printf 'not a gif' >"$work/n.gif"
+check "gif-info of a file that is not a GIF" status 1 "$cli" gif-info "$work/n.gif"
+
 echo "$failures failure(s)"
 [ "$failures" -eq 0 ]
