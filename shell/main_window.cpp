@@ -27,6 +27,7 @@
 #include "shell/figure_commands.h"
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
+#include "shell/game_commands.h"
 #include "shell/functions_window.h"
 #include "shell/help_commands.h"
 
@@ -93,6 +94,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterPrintCommands(*this);
     RegisterHelpCommands(*this);
     RegisterColorCommands(*this);
+    RegisterGameCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
