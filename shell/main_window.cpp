@@ -12,6 +12,7 @@
 #include <QStatusBar>
 
 #include "core/menu_tree.h"
+#include "core/resource_folder.h"
 #include "core/settings_file.h"
 #include "core/window_positions.h"
 #include "render/scale.h"
@@ -54,7 +55,7 @@ FrameStart FrameStart::fromApplication() {
     if (!arguments.isEmpty()) arguments.removeFirst();
     FrameStart start;
     start.commandLine = arguments.join(' ').toStdString();
-    start.programDir = QCoreApplication::applicationDirPath().toStdString();
+    start.programDir = ResourceFolder(QCoreApplication::applicationDirPath().toStdString());
     start.localeText = QLocale().toString(1.2).toStdString();
     start.settingsPath = SettingsFilePath(QCoreApplication::applicationDirPath());
     return start;
