@@ -53,10 +53,13 @@ ImageSizeCheck CheckImageSize(const std::string& text, int unit, double pixelsPe
         case Inches:
             if (v > MaxImageInches)
                 return failed("Size cannot exceed " + std::to_string(MaxImageInches) + " inches");
+            // Nothing, a negative size or less than a pixel has no picture in any unit.
+            if (v * pixelsPerInch < 1) return failed(ImageSizeTooSmallMessage);
             return twips(v * TwipsPerInch);
         case Centimetres:
             if (v > maxCentimetres())
                 return failed("Size cannot exceed " + std::to_string(maxCentimetres()) + " cm");
+            if (v * pixelsPerInch / CmPerInch < 1) return failed(ImageSizeTooSmallMessage);
             return twips(v * TwipsPerInch / CmPerInch);
         default:
             if (v > maxPixels(pixelsPerInch))

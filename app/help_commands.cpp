@@ -17,6 +17,8 @@ constexpr WebCommand WebCommands[] = {
     {"mnuWebHelp", HelpIndexTopic, false},       {"mnuHelpBug", ReportHelpTopic, true},
     {"mnuHelpEmail", ReportHelpTopic, true},     {"mnuHelpWeb", ReportHelpTopic, false},
     {"mnuHelpGallery", GalleryHelpTopic, false}, {"mnuHelpVisitClassic", ReportHelpTopic, false},
+    // The game window's own Help item takes the same road to its page.
+    {"mnuHelpHowTo", SierpinskiGameHelpTopic, false},
 };
 
 const WebCommand* findWebCommand(const std::string& key) {

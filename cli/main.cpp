@@ -1,10 +1,26 @@
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "cli/commands.h"
 #include "cli/options.h"
+#include "core/resource_folder.h"
+
+namespace {
+
+// The list the program starts with, found as the program finds it.
+quillane::cli::Command withDefaultList(quillane::cli::Command cmd, const char* argv0) {
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    fs::path self = fs::read_symlink("/proc/self/exe", ec);
+    if (ec) self = fs::absolute(argv0, ec);
+    cmd.files = {(fs::path(quillane::ResourceFolder(self.parent_path().string())) / "default.ifs").string()};
+    return cmd;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     using namespace quillane::cli;
@@ -21,6 +37,7 @@ int main(int argc, char** argv) {
                 std::cout << UsageText;
                 return 0;
             case Command::List:
+                if (cmd.files.empty()) return RunList(withDefaultList(cmd, argv[0]));
                 return RunList(cmd);
             case Command::Save:
                 return RunSave(cmd);

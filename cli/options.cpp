@@ -11,10 +11,11 @@ const char* const UsageText =
     "Usage: quillane-cli COMMAND ...\n"
     "\n"
     "Commands:\n"
-    "  list FILE\n"
+    "  list [FILE]\n"
     "      Reads FILE as the Open command does (a name ending in \"chg\" as a chaos game\n"
     "      file, anything else as an IFS file) and prints one line per entry:\n"
-    "      number, TAB, name, TAB, number of maps.\n"
+    "      number, TAB, name, TAB, number of maps. Without FILE, the program's default\n"
+    "      list: default.ifs beside quillane-cli, else in the installed share/quillane.\n"
     "  save IN OUT\n"
     "      Reads IN as list does and writes the whole list to OUT: as a chaos game list\n"
     "      when OUT ends in .chg (entries that have chaos game fields), else as an IFS list.\n"
@@ -264,10 +265,10 @@ ParseResult ParseCommandLine(const std::vector<std::string>& args) {
     const std::string& c = args[0];
     if (c == "--help" || c == "-h" || c == "help") return {Command{}, ""};
     if (c == "list") {
-        if (args.size() != 2) return usage("list takes one FILE");
+        if (args.size() > 2) return usage("list takes one FILE");
         Command cmd;
         cmd.kind = Command::List;
-        cmd.files = {args[1]};
+        if (args.size() == 2) cmd.files = {args[1]};
         return {cmd, ""};
     }
     if (c == "save") {

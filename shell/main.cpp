@@ -1,4 +1,6 @@
 #include <clocale>
+#include <cstdio>
+#include <cstdlib>
 
 #include "shell/guarded_application.h"
 #include "shell/main_window.h"
@@ -17,5 +19,10 @@ int main(int argc, char** argv) {
     // Bare X servers have no window manager to give the frame the focus.
     frame.activateWindow();
     frame.start();
+    // For installation checks: say which list the start took, then leave without a window loop.
+    if (std::getenv("QUILLANE_REPORT_START")) {
+        std::printf("%s\n", frame.state().wb.CurrentIFS.Name.c_str());
+        return 0;
+    }
     return app.exec();
 }

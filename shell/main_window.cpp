@@ -13,6 +13,7 @@
 #include <QStatusBar>
 
 #include "core/menu_tree.h"
+#include "core/resource_folder.h"
 #include "core/settings_file.h"
 #include "core/window_positions.h"
 #include "render/scale.h"
@@ -29,6 +30,7 @@
 #include "shell/figure_commands.h"
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
+#include "shell/game_commands.h"
 #include "shell/functions_window.h"
 #include "shell/help_commands.h"
 
@@ -55,7 +57,7 @@ FrameStart FrameStart::fromApplication() {
     if (!arguments.isEmpty()) arguments.removeFirst();
     FrameStart start;
     start.commandLine = arguments.join(' ').toStdString();
-    start.programDir = QCoreApplication::applicationDirPath().toStdString();
+    start.programDir = ResourceFolder(QCoreApplication::applicationDirPath().toStdString());
     start.localeText = QLocale().toString(1.2).toStdString();
     start.settingsPath = SettingsFilePath(QCoreApplication::applicationDirPath());
     return start;
@@ -97,6 +99,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterColorCommands(*this);
     RegisterPreviewCommands(*this);
     RegisterMovieCommands(*this);
+    RegisterGameCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);

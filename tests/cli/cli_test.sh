@@ -33,6 +33,9 @@ check "list names eleven entries" test "$(wc -l <"$work/out")" -eq 11
 check "list default.chg through the chaos game reader" status 0 "$cli" list "$data/default.chg"
 check "chaos list first line" test "$(head -1 "$work/out")" = "$(printf '1\tSierpinski triangle\t3')"
 
+check "list without FILE reads the default list beside the program" status 0 "$cli" list
+check "the default list is data/default.ifs" test "$(cat "$work/out")" = "$("$cli" list "$data/default.ifs")"
+check "list with two files is bad usage" status 2 "$cli" list "$data/default.ifs" "$data/default.chg"
 check "missing file exits 1" status 1 "$cli" list "$work/none.ifs"
 check "missing file message on stderr" grep -q "This file cannot be found" "$work/err"
 

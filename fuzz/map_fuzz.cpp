@@ -1,0 +1,8 @@
+// The .map palette reader.
+#include "fuzz/fuzz_contract.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    using namespace quillane;
+    fuzz::require(contracts::checkPaletteRead(fuzz::bytes(data, size), false));
+    return 0;
+}
