@@ -29,6 +29,7 @@
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
 #include "shell/functions_window.h"
+#include "shell/generator_commands.h"
 #include "shell/help_commands.h"
 
 namespace quillane {
@@ -95,6 +96,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterHelpCommands(*this);
     RegisterColorCommands(*this);
     RegisterPreviewCommands(*this);
+    RegisterGeneratorCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
