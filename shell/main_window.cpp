@@ -32,6 +32,7 @@
 #include "shell/fractal_window.h"
 #include "shell/game_commands.h"
 #include "shell/functions_window.h"
+#include "shell/generator_commands.h"
 #include "shell/help_commands.h"
 
 namespace quillane {
@@ -100,6 +101,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterPreviewCommands(*this);
     RegisterMovieCommands(*this);
     RegisterGameCommands(*this);
+    RegisterGeneratorCommands(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);

@@ -1,6 +1,0 @@
-namespace quillane {
-// Keeps the library linkable until its first unit arrives.
-int generatorsLayerVersion() {
-    return 1;
-}
-}  // namespace quillane
