@@ -28,6 +28,7 @@
 #include "shell/figure_commands.h"
 #include "shell/fractal_commands.h"
 #include "shell/fractal_window.h"
+#include "shell/generator_commands_b.h"
 #include "shell/functions_window.h"
 #include "shell/help_commands.h"
 
@@ -95,6 +96,7 @@ MainWindow::MainWindow(std::unique_ptr<QtHost> ownHost, Host* host, FrameStart s
     RegisterHelpCommands(*this);
     RegisterColorCommands(*this);
     RegisterPreviewCommands(*this);
+    RegisterMoreGenerators(*this);
     state_.wb.Menu.observer = [this](const std::string& key) { menuChanged(key); };
     if (ownHost_) {
         ownHost_->setParentWidget(this);
