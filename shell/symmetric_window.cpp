@@ -1,5 +1,6 @@
 #include "shell/symmetric_window.h"
 
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -38,6 +39,10 @@ SymmetricWindow::SymmetricWindow(MainWindow& frame)
     optGroup_[1] = new QRadioButton("Cyclic group", body());
     optGroup_[0]->setObjectName("optGroup(0)");
     optGroup_[1]->setObjectName("optGroup(1)");
+    // The two choices are separate groups of buttons on one parent.
+    auto* groups = new QButtonGroup(this);
+    groups->addButton(optGroup_[0]);
+    groups->addButton(optGroup_[1]);
     optGroup_[0]->setChecked(true);
     orderRow->addWidget(optGroup_[0]);
     orderRow->addWidget(optGroup_[1]);
@@ -47,6 +52,9 @@ SymmetricWindow::SymmetricWindow(MainWindow& frame)
     optBase_[1] = new QRadioButton("Use IFS from Fractals List", body());
     optBase_[0]->setObjectName("optBase(0)");
     optBase_[1]->setObjectName("optBase(1)");
+    auto* bases = new QButtonGroup(this);
+    bases->addButton(optBase_[0]);
+    bases->addButton(optBase_[1]);
     optBase_[0]->setChecked(true);
     layout->addWidget(optBase_[0]);
 

@@ -36,11 +36,14 @@ TEST_F(SymmetricWindowTest, OpensWithTheFirstOrderAndTheBaseFrame) {
     EXPECT_EQ(cmbN->count(), 99);
     EXPECT_EQ(cmbN->currentText(), "2");
     EXPECT_EQ(cmbN->itemText(98), "100");
+    EXPECT_TRUE(child<QRadioButton>(w, "optGroup(0)")->isChecked());
+    EXPECT_TRUE(child<QRadioButton>(w, "optBase(0)")->isChecked());
     EXPECT_TRUE(child<QGroupBox>(w, "frmBase")->isVisible());
     EXPECT_FALSE(child<QGroupBox>(w, "frmList")->isVisible());
     QTest::mouseClick(child<QRadioButton>(w, "optBase(1)"), Qt::LeftButton);
     EXPECT_FALSE(child<QGroupBox>(w, "frmBase")->isVisible());
     EXPECT_TRUE(child<QGroupBox>(w, "frmList")->isVisible());
+    EXPECT_TRUE(child<QRadioButton>(w, "optGroup(0)")->isChecked());
     EXPECT_EQ(child<QComboBox>(w, "cmbIFSList")->count(), wb().ListCount());
 }
 
