@@ -3,6 +3,8 @@
 #include "app/generator_run.h"
 #include "shell/box_fractal_window.h"
 #include "shell/generator_window.h"
+#include "shell/sierpinski_window.h"
+#include "shell/symmetric_window.h"
 #include "shell/triangle_fractal_window.h"
 
 namespace quillane {
@@ -11,6 +13,9 @@ void RegisterGeneratorCommands(MainWindow& frame) {
     RegisterGenerator(frame, BoxFractalsExample, [](MainWindow& f) { return new BoxFractalWindow(f); });
     RegisterGenerator(frame, TriangleFractalsExample,
                       [](MainWindow& f) { return new TriangleFractalWindow(f); });
+    RegisterGenerator(frame, SierpinskiTrianglesExample,
+                      [](MainWindow& f) { return new SierpinskiWindow(f); });
+    RegisterGenerator(frame, SymmetricFractalsExample, [](MainWindow& f) { return new SymmetricWindow(f); });
 }
 
 }  // namespace quillane
