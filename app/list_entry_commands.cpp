@@ -1,6 +1,7 @@
 #include "app/list_entry_commands.h"
 
 #include "app/file_commands.h"
+#include "app/lock_design.h"
 #include "core/fractal_list.h"
 #include "core/function_table.h"
 #include "app/startup.h"
@@ -23,6 +24,7 @@ void keepChaosGameSelection(Workbench& wb, int16_t map) {
 }  // namespace
 
 void ShowTakenIFS(Workbench& wb, FractalPictures& pics, Host& host) {
+    UnlockDesign(wb);
     ResetUndoMenu(wb);
     wb.RecursionOff.fill(false);
     wb.TableRecursionFlags.fill(false);
@@ -53,6 +55,7 @@ bool mnuNamesEntry_Click(Workbench& wb, FractalPictures& pics, Host& host, int i
 
 bool mnuNewIFS_Click(Workbench& wb, FractalPictures& pics, Host& host) {
     if (!NewIFS(wb, host)) return false;
+    UnlockDesign(wb);
     ResetUndoMenu(wb);
     wb.RecursionOff.fill(false);
     ClearImage(wb, pics, false);

@@ -169,7 +169,7 @@ void LockFunctions(Workbench& wb, bool Lock) {
 }
 
 bool BoxLocked(const Workbench& wb, int Column) {
-    return wb.Table.Locked && Column >= 1 && Column <= 6;
+    return (wb.Table.Locked && Column >= 1 && Column <= 6) || (wb.Table.AllLocked && Column >= 1);
 }
 
 std::optional<WorldWindow> WindowFromTexts(const std::array<std::string, 4>& texts) {

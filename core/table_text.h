@@ -18,6 +18,7 @@ struct FunctionTableText {
     std::array<ColumnTexts, TableColumnCount + 1> OldText;  // the last committed text of each box
     int LastMaps = 1;                                       // the last committed count of txtMaps
     bool Locked = false;                                    // LockFunctions: columns 1 to 6 read-only
+    bool AllLocked = false;                                 // LockDesign: every box read-only
 
     std::string& text(int column, int row) { return Text[static_cast<size_t>(column)][static_cast<size_t>(row)]; }
     const std::string& text(int column, int row) const {

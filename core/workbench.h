@@ -183,7 +183,15 @@ class Workbench {
         bool ScaleEnabled = false, RotateEnabled = false;
         bool Changed = false;
         bool RotateFocus = false;
+        // StatusFrmScaleCGControls: off while a chaos game is locked.
+        bool ControlsEnabled = true;
     } ScaleCG;
+    // LockDesign: the chaos game shown as an IFS cannot be edited; Undo is parked until unlocked.
+    struct DesignLockState {
+        bool Locked = false;
+        bool UndoEnabled = false;
+        std::string UndoCaption;
+    } DesignLock;
 };
 
 // The save test of every command that replaces CurrentIFS.

@@ -137,10 +137,18 @@ void ChaosMovesDialog::showSettings() {
     sliRotate_->setValue(c.sliRotate);
     txtS_->setText(QString::fromStdString(c.txtS));
     txtRotate_->setText(QString::fromStdString(c.txtRotate));
-    sliScale_->setEnabled(c.ScaleEnabled);
-    txtS_->setEnabled(c.ScaleEnabled);
-    sliRotate_->setEnabled(c.RotateEnabled);
-    txtRotate_->setEnabled(c.RotateEnabled);
+    // A locked chaos game shows its moves but takes no change.
+    const bool open = c.ControlsEnabled;
+    sliScale_->setEnabled(open && c.ScaleEnabled);
+    txtS_->setEnabled(open && c.ScaleEnabled);
+    sliRotate_->setEnabled(open && c.RotateEnabled);
+    txtRotate_->setEnabled(open && c.RotateEnabled);
+    cmbFP_->setEnabled(open);
+    for (int k = 1; k <= 4; ++k) {
+        chkStep_[k]->setEnabled(open);
+        picStep_[k]->setEnabled(open);
+    }
+    setWindowTitle(open ? QString(ScaleCGTitle) : QString::fromStdString(wb_.ScaleCGCaption));
     quiet_ = false;
 }
 

@@ -3,28 +3,34 @@
 #include <QFontMetrics>
 #include <QLabel>
 
+#include "app/code_commands.h"
 #include "app/comment_commands.h"
-#include "app/file_commands.h"
-#include "core/function_forms.h"
-#include "app/list_commands.h"
-#include "core/palette_files.h"
 #include "app/design_view.h"
+#include "app/file_commands.h"
+#include "app/list_commands.h"
 #include "app/list_entry_commands.h"
+#include "app/lock_design.h"
 #include "app/table_commands.h"
+#include "app/window_commands.h"
+#include "core/function_forms.h"
+#include "core/palette_files.h"
 #include "shell/functions_window.h"
 #include "shell/main_window.h"
-#include "app/code_commands.h"
-#include "app/window_commands.h"
 
 namespace quillane {
 
 void RegisterCodeCommands(MainWindow& frame) {
     AppState& s = frame.state();
     Host& host = frame.host();
-    frame.setCommand("mnuMatrix", [&s] { mnuMatrix_Click(s.wb); });
-    frame.setCommand("mnuCodeMatrixFormat", [&s, &host] { mnuCodeMatrixFormat_Click(s.wb, host); });
-    frame.setCommand("mnuRotation", [&s] { mnuRotation_Click(s.wb); });
-    frame.setCommand("mnuCodeFP", [&s] { mnuCodeFP_Click(s.wb); });
+    frame.setCommand("mnuMatrix",
+                     [&s] { ChangeFunctionForm(s.wb, s.design, [&s] { mnuMatrix_Click(s.wb); }); });
+    frame.setCommand("mnuCodeMatrixFormat", [&s, &host] {
+        ChangeFunctionForm(s.wb, s.design, [&s, &host] { mnuCodeMatrixFormat_Click(s.wb, host); });
+    });
+    frame.setCommand("mnuRotation",
+                     [&s] { ChangeFunctionForm(s.wb, s.design, [&s] { mnuRotation_Click(s.wb); }); });
+    frame.setCommand("mnuCodeFP",
+                     [&s] { ChangeFunctionForm(s.wb, s.design, [&s] { mnuCodeFP_Click(s.wb); }); });
     frame.setCommand("mnuProb", [&s, &host] { mnuProb_Click(s.wb, host); });
     frame.setCommand("mnuProbCalc", [&s, &host] { mnuProbCalc_Click(s.wb, host); });
     // The points move far: the design window fits them again.
@@ -50,8 +56,8 @@ void RegisterListAndFileCommands(MainWindow& frame) {
     AppState& s = frame.state();
     Host& host = frame.host();
     // The entries take the IFS (with its view); the items above the separator edit the list.
-    frame.setArrayCommand("mnuNames",
-                          [&frame, &s, &host](int index) { mnuNames_Click(s, host, frame.dialogs().list, index); });
+    frame.setArrayCommand(
+        "mnuNames", [&frame, &s, &host](int index) { mnuNames_Click(s, host, frame.dialogs().list, index); });
     frame.setCommand("mnuNewIFS", [&s, &host] { mnuNewIFS_Click(s.wb, s.pics, host); });
     frame.setCommand("mnuOpen", [&s, &host] { mnuOpen_Click(s, host); });
     frame.setCommand("mnuFileAppend", [&s, &host] { mnuFileAppend_Click(s.wb, host); });

@@ -23,6 +23,9 @@ class GameWindowTest : public FrameTest {
         item("mnuNewSTG")->trigger();
         auto* w = frame->findChild<SierpinskiGameWindow*>("frmSierpG");
         EXPECT_NE(w, nullptr);
+        // Keys go to the active window, as they do for a person at the keyboard.
+        w->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(w));
         QApplication::processEvents();
         return *w;
     }
