@@ -4,8 +4,7 @@
 
 namespace quillane {
 
-void mnuDrawLoadPicture_Click(Workbench& wb, FractalPictures& pics, Host& host) {
-    if (!BackgroundPictureAllowed(wb)) return;
+std::optional<RasterSurface> AskPictureFile(Host& host) {
     FileDialogRequest request;
     request.title = "Open Image File";
     request.filters = {{"Images (*.gif; *.png; *.jpg; *.jpeg; *.bmp)", "*.bmp; *.gif; *.jpg; *.jpeg; *.png"},
@@ -15,14 +14,21 @@ void mnuDrawLoadPicture_Click(Workbench& wb, FractalPictures& pics, Host& host) 
                        {"bitmap images (*.bmp)", "*.bmp"}};
     request.folderKey = PictureFolderKey;
     const std::optional<std::string> name = host.openFileName(request);
-    if (!name || name->empty()) return;
+    if (!name || name->empty()) return std::nullopt;
     RasterSurface picture;
     std::string error;
     if (!LoadImageFile(*name, picture, error)) {
         host.warn(LoadPictureErrorTitle, "The picture could not be read.\n" + error);
-        return;
+        return std::nullopt;
     }
-    FloatPicture(pics, picture);
+    return picture;
+}
+
+void mnuDrawLoadPicture_Click(Workbench& wb, FractalPictures& pics, Host& host) {
+    if (!BackgroundPictureAllowed(wb)) return;
+    const std::optional<RasterSurface> picture = AskPictureFile(host);
+    if (!picture) return;
+    FloatPicture(pics, *picture);
     pics.picCoord = PasteCornersText(pics);
 }
 

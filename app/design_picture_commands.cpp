@@ -1,10 +1,10 @@
 #include "app/design_picture_commands.h"
 
+#include "app/background_commands.h"
 #include "app/design_keys.h"
 #include "app/design_view.h"
 #include "app/fractal_view.h"
 #include "core/menu_tree.h"
-#include "render/image_file.h"
 
 namespace quillane {
 namespace {
@@ -41,23 +41,9 @@ bool DesignPasteShowing(const DesignPictures& d) {
 
 bool mnuDesignLoadPicture_Click(Workbench& wb, DesignPictures& d, Host& host) {
     if (d.Poly.PolygonMode && d.Poly.PolygonPointCount > 0) return false;
-    FileDialogRequest request;
-    request.title = "Open Image File";
-    request.filters = {{DesignPictureFilter, "*.bmp; *.gif; *.jpg; *.jpeg; *.png"},
-                       {"GIF images (*.gif)", "*.gif"},
-                       {"PNG images (*.png)", "*.png"},
-                       {"JPG images (*.jpg, *.jpeg)", "*.jpg; *.jpeg"},
-                       {"bitmap images (*.bmp)", "*.bmp"}};
-    request.folderKey = PictureFolderKey;
-    const std::optional<std::string> name = host.openFileName(request);
-    if (!name || name->empty()) return false;
-    RasterSurface picture;
-    std::string error;
-    if (!LoadImageFile(*name, picture, error)) {
-        host.warn(LoadPictureErrorTitle, "The picture could not be read.\n" + error);
-        return false;
-    }
-    floatPicture(wb, d, picture);
+    const std::optional<RasterSurface> picture = AskPictureFile(host);
+    if (!picture) return false;
+    floatPicture(wb, d, *picture);
     return true;
 }
 

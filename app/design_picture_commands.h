@@ -8,8 +8,6 @@
 
 namespace quillane {
 
-inline constexpr const char* DesignPictureFilter = "Images (*.gif; *.png; *.jpg; *.jpeg; *.bmp)";
-
 // The design window's floating picture over picdesign.
 PasteArea DesignPasteArea(DesignPictures& d);
 // A paste selection shows (floating, not placed).

@@ -8,27 +8,13 @@
 #include <mutex>
 #include <system_error>
 
+#include "render/image_file.h"
+
 namespace quillane {
 namespace {
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
-
-// The library reports its failures only through this callback.
-thread_local std::string libraryMessage;
-
-void takeMessage(FREE_IMAGE_FORMAT, const char* message) {
-    if (!libraryMessage.empty()) libraryMessage += "; ";
-    libraryMessage += message ? message : "";
-}
-
-void startLibrary() {
-    static std::once_flag once;
-    std::call_once(once, [] {
-        FreeImage_Initialise(FALSE);
-        FreeImage_SetOutputMessage(&takeMessage);
-    });
-}
 
 double msSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
@@ -82,8 +68,7 @@ bool AnimatedGifWriter::isOpen() const {
 
 bool AnimatedGifWriter::open(const std::string& path, int32_t loop, int32_t frameTimeMs) {
     abandon();
-    startLibrary();
-    libraryMessage.clear();
+    StartFreeImage();
     path_ = path;
     temporary_ = path + ".part";
     loop_ = loop < 0 ? 0 : loop;
@@ -101,8 +86,7 @@ bool AnimatedGifWriter::open(const std::string& path, int32_t loop, int32_t fram
     // Keep the cache in memory: otherwise the library leaves a cache file beside the movie.
     lib_->movie = FreeImage_OpenMultiBitmap(FIF_GIF, temporary_.c_str(), TRUE, FALSE, TRUE, 0);
     if (!lib_->movie) {
-        error_ = "The movie could not be created at \"" + path + "\".";
-        if (!libraryMessage.empty()) error_ += " (" + libraryMessage + ")";
+        error_ = WithFreeImageMessage("The movie could not be created at \"" + path + "\".");
         return false;
     }
     return true;

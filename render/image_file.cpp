@@ -22,20 +22,6 @@ void takeMessage(FREE_IMAGE_FORMAT, const char* message) {
     libraryMessage += message ? message : "";
 }
 
-void startLibrary() {
-    static std::once_flag once;
-    std::call_once(once, [] {
-        FreeImage_Initialise(FALSE);
-        FreeImage_SetOutputMessage(&takeMessage);
-    });
-    libraryMessage.clear();
-}
-
-std::string withLibraryMessage(std::string text) {
-    if (!libraryMessage.empty()) text += " (" + libraryMessage + ")";
-    return text;
-}
-
 struct BitmapDeleter {
     void operator()(FIBITMAP* b) const { FreeImage_Unload(b); }
 };
@@ -100,7 +86,7 @@ bool writeBeside(FIBITMAP* dib, const SaveFormat& f, const std::string& path, st
     if (!FreeImage_Save(f.format, dib, temporary.c_str(), f.flags)) {
         std::error_code ignored;
         fs::remove(temporary, ignored);
-        error = withLibraryMessage("The picture could not be written to \"" + path + "\".");
+        error = WithFreeImageMessage("The picture could not be written to \"" + path + "\".");
         return false;
     }
     std::error_code ec;
@@ -116,8 +102,22 @@ bool writeBeside(FIBITMAP* dib, const SaveFormat& f, const std::string& path, st
 
 }  // namespace
 
+void StartFreeImage() {
+    static std::once_flag once;
+    std::call_once(once, [] {
+        FreeImage_Initialise(FALSE);
+        FreeImage_SetOutputMessage(&takeMessage);
+    });
+    libraryMessage.clear();
+}
+
+std::string WithFreeImageMessage(std::string text) {
+    if (!libraryMessage.empty()) text += " (" + libraryMessage + ")";
+    return text;
+}
+
 bool SaveImageFile(const RasterSurface& picture, const std::string& path, std::string& error) {
-    startLibrary();
+    StartFreeImage();
     const SaveFormat f = saveFormatOf(path);
     if (f.format == FIF_UNKNOWN) {
         error = "Unknown picture file type \"" + fs::path(path).extension().string() + "\".";
@@ -130,14 +130,14 @@ bool SaveImageFile(const RasterSurface& picture, const std::string& path, std::s
     Bitmap dib = toBitmap(picture);
     if (dib && f.format == FIF_GIF) dib.reset(FreeImage_ColorQuantize(dib.get(), FIQ_WUQUANT));
     if (!dib) {
-        error = withLibraryMessage("The picture could not be converted.");
+        error = WithFreeImageMessage("The picture could not be converted.");
         return false;
     }
     return writeBeside(dib.get(), f, path, error);
 }
 
 bool LoadImageFile(const std::string& path, RasterSurface& picture, std::string& error) {
-    startLibrary();
+    StartFreeImage();
     std::error_code ec;
     if (!fs::is_regular_file(path, ec)) {
         error = "File not found: \"" + path + "\".";
@@ -152,7 +152,7 @@ bool LoadImageFile(const std::string& path, RasterSurface& picture, std::string&
     Bitmap raw(FreeImage_Load(format, path.c_str(), format == FIF_JPEG ? JPEG_ACCURATE : 0));
     Bitmap rgb = raw ? to24Bits(raw.get()) : Bitmap();
     if (!rgb) {
-        error = withLibraryMessage("The picture \"" + path + "\" could not be read.");
+        error = WithFreeImageMessage("The picture \"" + path + "\" could not be read.");
         return false;
     }
     fromBitmap(rgb.get(), picture);
