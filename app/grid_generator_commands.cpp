@@ -19,8 +19,9 @@ void usePolygon(Workbench& wb, int item) {
     wb.Menu.setChecked(MenuTable::key("mnupoly", item), true);
 }
 
-// The steps both windows share once the maps stand in CurrentIFS.
-void showBuiltIFS(AppState& s, Host& host, bool boundingBoxes) {
+}  // namespace
+
+void ShowBuiltIFS(AppState& s, Host& host, bool boundingBoxes) {
     Workbench& wb = s.wb;
     const int count = wb.CurrentIFS.nMaps;
     wb.lblComment.clear();
@@ -48,8 +49,6 @@ void showBuiltIFS(AppState& s, Host& host, bool boundingBoxes) {
     GeneratorBuilt(s.Generator);
 }
 
-}  // namespace
-
 bool BoxFractalSetup(AppState& s, Host& host, const BoxFractal& box) {
     if (box.BoxCount <= 0) {
         host.message(MessageIcon::Critical, "Error", NoBoxesMessage, MessageButtons::OK);
@@ -57,7 +56,7 @@ bool BoxFractalSetup(AppState& s, Host& host, const BoxFractal& box) {
     }
     usePolygon(s.wb, 0);
     s.wb.CurrentIFS = BoxMaps(box);
-    showBuiltIFS(s, host, false);
+    ShowBuiltIFS(s, host, false);
     return true;
 }
 
@@ -68,7 +67,7 @@ bool TriangleFractalCreate(AppState& s, Host& host, const TriangleFractal& tri) 
     }
     usePolygon(s.wb, 1);
     s.wb.CurrentIFS = TriangleMaps(tri);
-    showBuiltIFS(s, host, true);
+    ShowBuiltIFS(s, host, true);
     return true;
 }
 

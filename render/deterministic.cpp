@@ -65,6 +65,10 @@ bool plainLevel(Workbench& wb, FractalPictures& pics, Host& host, int which) {
     q.which = which;
     q.kind = ScanKind::ImageColors;
     if (ifsColorScheme(wb)) q = coloredRequest(wb, pics, which);
+    if (pics.Tiling.SettingsVisible) {
+        q = coloredRequest(wb, pics, which);
+        q.tiled = true;
+    }
     q.writeShown = placed;
     if (!ScanLevel(wb, pics, host, q)) return false;
     if (!placed) pics.picImage4.takeImage(pics.picImage);

@@ -8,6 +8,7 @@
 
 #include "render/color_modes.h"
 #include "render/run_maps.h"
+#include "render/tile_loop.h"
 
 namespace quillane {
 
@@ -78,6 +79,8 @@ struct Scan {
     const GradientColors* gradient = nullptr;
     const std::array<Color, GradientStripCount>* strips = nullptr;
     Random* rng = nullptr;
+    // The tiled scan: the copies of every image.
+    const TileCopies* tiles = nullptr;
 };
 
 bool samePlace(const RasterSurface& s, const RasterSurface& t) {
@@ -190,6 +193,52 @@ inline void carryPixel(Scan& s, int col, float y, uint32_t P) {
     }
 }
 
+// The tiled scan: every image of the pixel with its copies, each in the colour the coloured scan gives
+// the image, or in its own tile colour.
+inline void carryTiledPixel(Scan& s, int col, float y) {
+    const LevelMaps& m = *s.maps;
+    const TileCopies& k = *s.tiles;
+    const float x = s.colX[col];
+    const ScanKind colorKind = s.request.kind;
+    for (int n = 0; n < m.count; ++n) {
+        const int i = m.first + n;
+        const size_t at = static_cast<size_t>(n) * s.srcW + col;
+        const float xp = (s.ax[at] + s.by[n]) + m.e[i];
+        const float yp = (s.cx[at] + s.dy[n]) + m.f[i];
+        uint32_t v = m.color[i];
+        if (!k.separateColors) {
+            if (colorKind == ScanKind::SingleColor) {
+                v = (s.request.color & RgbMask) | Opaque;
+            } else if (colorKind == ScanKind::Gradient) {
+                float gx = xp, gy = yp;
+                if (s.det->KeepFirstColor && i != 0) {
+                    gx = m.a[0] * x + m.b[0] * y + m.e[0];
+                    gy = m.c[0] * x + m.d[0] * y + m.f[0];
+                }
+                v = (gradientColor(s, gx, gy) & RgbMask) | Opaque;
+            }
+        }
+        const bool priority = !k.separateColors && colorKind == ScanKind::IfsColors;
+        for (int a = 0; a < k.side; ++a) {
+            const float bx = xp + k.ix[static_cast<size_t>(a)];
+            const float by = yp + k.iy[static_cast<size_t>(a)];
+            for (int b = 0; b < k.side; ++b) {
+                const long to = destIndex(s, bx + k.jx[static_cast<size_t>(b)], by + k.jy[static_cast<size_t>(b)]);
+                if (to < 0) continue;
+                uint32_t value = v;
+                if (k.separateColors) {
+                    value = k.color[static_cast<size_t>(a * k.side + b)] | Opaque;
+                } else if (priority) {
+                    if (!s.allowed[static_cast<size_t>(i) * (MaxMaps + 1) + s.owner[to]]) continue;
+                    s.owner[to] = static_cast<uint8_t>(i + 1);
+                }
+                s.img[to] = value;
+                if (s.shown) s.shown[to] = value;
+            }
+        }
+    }
+}
+
 template <ScanKind K>
 void scanRow(Scan& s, int r) {
     const LevelMaps& m = *s.maps;
@@ -208,7 +257,12 @@ void scanRow(Scan& s, int r) {
         cols[count] = c;
         count += ((row[c] ^ back) & RgbMask) != 0;
     }
-    for (int j = 0; j < count; ++j) carryPixel<K>(s, cols[j], y, row[cols[j]] & RgbMask);
+    for (int j = 0; j < count; ++j) {
+        if constexpr (K == ScanKind::Tiled)
+            carryTiledPixel(s, cols[j], y);
+        else
+            carryPixel<K>(s, cols[j], y, row[cols[j]] & RgbMask);
+    }
 }
 
 template <ScanKind K>
@@ -223,6 +277,30 @@ bool scanRows(Scan& s, FractalPictures& pics, Host& host) {
         if (pics.picImage3.data() != s.src || pics.picImage.data() != s.img) return false;
     }
     return true;
+}
+
+// The tiled scan: the colours of the coloured scan set up as for it, then every image with its copies.
+bool tiledScan(Workbench& wb, FractalPictures& pics, Host& host, Scan& s, const LevelMaps& maps) {
+    const TileCopies tiles = PrepareTileCopies(pics.Tiling, wb.TilingColor);
+    s.tiles = &tiles;
+    GradientColors gradient = wb.Gradient;
+    gradient.GradientColorCount = GradientCount(gradient);
+    std::optional<GradientPosition> position;
+    std::array<Color, GradientStripCount> strips{};
+    if (s.request.kind == ScanKind::IfsColors) {
+        preparePriority(s);
+    } else if (s.request.kind == ScanKind::Gradient) {
+        s.gradient = &gradient;
+        if (s.request.gradientMode == StealingColorMode) {
+            strips = GradientStrips(gradient);
+            s.strips = &strips;
+            s.rng = &wb.Rng;
+        } else {
+            position.emplace(s.request.gradientMode, wb, wb.CurrentIFS, maps.n);
+            s.position = &*position;
+        }
+    }
+    return scanRows<ScanKind::Tiled>(s, pics, host);
 }
 
 }  // namespace
@@ -258,6 +336,7 @@ bool ScanLevel(Workbench& wb, FractalPictures& pics, Host& host, const ScanReque
     s.ymax = static_cast<float>(view.scaleTop());
     s.setColumns.resize(static_cast<size_t>(std::max(s.srcW, 1)));
     prepareColumns(s, stepX, static_cast<float>(view.scaleLeft()));
+    if (request.tiled && request.kind != ScanKind::Overlay) return tiledScan(wb, pics, host, s, maps);
     switch (request.kind) {
         case ScanKind::ImageColors:
             return scanRows<ScanKind::ImageColors>(s, pics, host);
@@ -284,6 +363,8 @@ bool ScanLevel(Workbench& wb, FractalPictures& pics, Host& host, const ScanReque
         }
         case ScanKind::Overlay:
             return scanRows<ScanKind::Overlay>(s, pics, host);
+        case ScanKind::Tiled:
+            break;
     }
     return true;
 }

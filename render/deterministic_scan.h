@@ -13,6 +13,7 @@ enum class ScanKind {
     SingleColor,  // modes 5 and 6: DetSingleColor
     Gradient,     // modes 1 to 4 by the colouring position, 7 a random strip
     Overlay,      // one colour (or the source colour) per level into picImage and picMask
+    Tiled,        // each image with its tile copies, coloured as IfsColors, SingleColor or Gradient
 };
 
 struct ScanRequest {
@@ -23,6 +24,9 @@ struct ScanRequest {
     int gradientMode = 1;
     // False when picImage4 will simply take the picImage image afterwards (no placed picture under it).
     bool writeShown = true;
+    // The tiling settings window is open: every image is set with its copies (the kind gives their colour
+    // under optColor1; optColor2 gives each copy its tile colour).
+    bool tiled = false;
 };
 
 // Runs the rows 1 to N - 1 into a picImage cleared for this level. False when IterationAbort (or a change of

@@ -8,6 +8,7 @@
 #include "render/color_stealing_state.h"
 #include "render/deterministic_state.h"
 #include "render/raster_surface.h"
+#include "render/tiling_state.h"
 
 namespace quillane {
 
@@ -64,6 +65,7 @@ struct FractalPictures {
     FractalSelection Selection;
     DeterministicState Det;
     ColorStealingState Stealing;
+    TilingState Tiling;
     // View state of the window.
     int32_t SavedPointCount = 0;  // PointCount before the last view change, for Undo Zoom
     bool LastChangeWasZoom = false;

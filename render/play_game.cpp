@@ -11,6 +11,7 @@
 #include "render/fractal_overlays.h"
 #include "render/map_choice.h"
 #include "render/run_maps.h"
+#include "render/tile_loop.h"
 
 namespace quillane {
 
@@ -360,6 +361,9 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
     wb.DrawingStarted = true;
     wb.DrawingActive = true;
     const uint32_t run = ++pics.RunNumber;
+    // The open tiling settings window is the switch of the tile mode.
+    std::optional<TileCopies> tiles;
+    if (pics.Tiling.SettingsVisible) tiles = PrepareTileCopies(pics.Tiling, wb.TilingColor);
 
     try {
         while (wb.DrawingActive && wb.PointCount < limit) {
@@ -372,10 +376,10 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
             int32_t nextYield = wb.PointCount + 1;
             nextYield += static_cast<int32_t>(((50 - nextYield) % 100 + 100) % 100);
             const int32_t stop = nextYield < limit ? nextYield : limit;
-            // The complex bases dialog and the tiling settings window will hand over to their own loops
-            // here; the tile loop takes each iteration's colour, warm-up included, from
-            // RunColoring::tileColor, which holds every difference of its colour step.
-            if (coloring.mode == IFSColorMode)
+            // The complex bases dialog will hand over to its own loop here.
+            if (tiles)
+                TileLoop(wb, pics, maps, choice, coloring, *tiles, stop);
+            else if (coloring.mode == IFSColorMode)
                 plainLoop(wb, pics, maps, choice, skip, target, stop);
             else
                 coloredLoop(wb, pics, maps, choice, coloring, target, stop);
