@@ -223,7 +223,8 @@ inline void carryTiledPixel(Scan& s, int col, float y) {
             const float bx = xp + k.ix[static_cast<size_t>(a)];
             const float by = yp + k.iy[static_cast<size_t>(a)];
             for (int b = 0; b < k.side; ++b) {
-                const long to = destIndex(s, bx + k.jx[static_cast<size_t>(b)], by + k.jy[static_cast<size_t>(b)]);
+                const long to =
+                    destIndex(s, bx + k.jx[static_cast<size_t>(b)], by + k.jy[static_cast<size_t>(b)]);
                 if (to < 0) continue;
                 uint32_t value = v;
                 if (k.separateColors) {
