@@ -35,4 +35,11 @@ void UseColorModeWorkload(Workbench& wb, FractalPictures& pics, int mode) {
     }
 }
 
+void UseTileWorkload(FractalPictures& pics, int radius, bool separateColors) {
+    pics.Tiling.SettingsVisible = true;
+    pics.Tiling.txtT = {"0.25", "0", "0", "0.25"};
+    pics.Tiling.cmbRadius = radius;
+    pics.Tiling.optColor2 = separateColors;
+}
+
 }  // namespace quillane

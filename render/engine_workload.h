@@ -14,4 +14,8 @@ void SetUpEngineWorkload(Workbench& wb, FractalPictures& pics, int maps, int sid
 // through the unit-square colouring IFS.
 void UseColorModeWorkload(Workbench& wb, FractalPictures& pics, int mode);
 
+// Puts the workload in tile mode: the tiling settings open at `radius`, tile vectors (0.25, 0) and
+// (0, 0.25) so that most copies fall on the picture, in separate tile colours or the fractal's own.
+void UseTileWorkload(FractalPictures& pics, int radius, bool separateColors);
+
 }  // namespace quillane
