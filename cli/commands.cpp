@@ -27,6 +27,7 @@
 #include "render/picture_figures.h"
 #include "render/play_game.h"
 #include "render/scale.h"
+#include "render/tile_loop.h"
 
 namespace quillane::cli {
 
@@ -124,6 +125,37 @@ bool setUpStealing(Workbench& wb, FractalPictures& pics, const RenderOptions& r)
     return true;
 }
 
+// --tiles: the tile settings as the open options window would hold them. Without --window the window
+// grows by the reach of the copies, so the neighbours are in the picture.
+void useTiles(Workbench& wb, FractalPictures& pics, const RenderOptions& r) {
+    TilingState& t = pics.Tiling;
+    t.SettingsVisible = true;
+    t.cmbRadius = r.tiles;
+    t.optColor2 = !r.colorsGiven;
+    std::istringstream words(r.tileVectors);
+    for (std::string& box : t.txtT) words >> box;
+    if (r.window) return;
+    const TileCopies k = PrepareTileCopies(t, wb.TilingColor);
+    const auto [xlo, xhi] = std::minmax({k.ix[0] + k.jx[0], k.ix[0] + k.jx[k.side - 1],
+                                         k.ix[k.side - 1] + k.jx[0], k.ix[k.side - 1] + k.jx[k.side - 1]});
+    const auto [ylo, yhi] = std::minmax({k.iy[0] + k.jy[0], k.iy[0] + k.jy[k.side - 1],
+                                         k.iy[k.side - 1] + k.jy[0], k.iy[k.side - 1] + k.jy[k.side - 1]});
+    wb.Window.xmin += xlo;
+    wb.Window.xmax += xhi;
+    wb.Window.ymin += ylo;
+    wb.Window.ymax += yhi;
+    // Square pixels: the shorter side grows about its middle.
+    const float w = wb.Window.xmax - wb.Window.xmin, h = wb.Window.ymax - wb.Window.ymin;
+    if (w > h) {
+        wb.Window.ymin -= (w - h) / 2;
+        wb.Window.ymax += (w - h) / 2;
+    } else {
+        wb.Window.xmin -= (h - w) / 2;
+        wb.Window.xmax += (h - w) / 2;
+    }
+    WriteWindowText(wb);
+}
+
 int renderDeterministic(Workbench& wb, FractalPictures& pics, CliHost& host, const RenderOptions& r) {
     wb.Menu.setChecked(MenuTable::key("mnuColors", 0), true);
     pics.Det.FigureDrawer = FigureDrawerFor(r.figure);
@@ -186,6 +218,7 @@ int RunRender(const Command& cmd) {
         WriteWindowText(wb);
     }
     FractalPictures pics;
+    if (r.tiles >= 0) useTiles(wb, pics, r);
     pics.resize(r.size, White);
     ApplyWindow(pics, wb.Window);
     wb.DrawingStarted = false;

@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "render/tiling_state.h"
+
 namespace quillane::cli {
 
 const char* const UsageText =
@@ -53,6 +55,11 @@ const char* const UsageText =
     "      file when given. steal paints with the colours of PICTURE under a second orbit,\n"
     "      of the unit-square colouring IFS or of entry ENTRY of FILE. With --deterministic\n"
     "      visits and steal are not offered, and random draws in one colour.\n"
+    "  render FILE ... --tiles RADIUS [--tile-vectors \"T0 T1 T2 T3\"]\n"
+    "      The tile with its neighbours: every point also at i (T0, T2) + j (T1, T3) for i and\n"
+    "      j from -RADIUS to RADIUS (0 to 7; vectors default \"1 0 0 1\"), each copy in its\n"
+    "      tile colour, or in the colours of --colors when given. Without --window the\n"
+    "      window takes in the copies.\n"
     "  movie A.ifs[:N] B.ifs[:M] [--frames K] [--points P] [--size S] [--delay MS]\n"
     "        [--loop L] [--method 1|2|3] [--cycle] [--seed S] -o OUT.gif\n"
     "      The transformation movie from entry N of A to entry M of B (default 1) as an\n"
@@ -214,6 +221,17 @@ ParseResult parseRender(const std::vector<std::string>& args) {
                 return usage("--steal-ifs needs FILE:ENTRY");
             r.stealEntry = static_cast<int>(n);
             r.stealIfs.resize(colon);
+        } else if (a == "--tiles") {
+            if (!value(v) || !ParseWholeNumber(v, 0, MaxTileRadius, n))
+                return usage("--tiles needs a radius from 0 to 7");
+            r.tiles = static_cast<int>(n);
+        } else if (a == "--tile-vectors") {
+            std::string word;
+            int count = 0;
+            if (value(v))
+                for (std::istringstream words(v); words >> word;) ++count;
+            if (count != 4) return usage("--tile-vectors needs \"T0 T1 T2 T3\"");
+            r.tileVectors = v;
         } else if (a == "-o") {
             if (!value(r.output)) return usage("-o needs a file name");
         } else if (!a.empty() && a[0] == '-') {

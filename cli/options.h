@@ -34,6 +34,10 @@ struct RenderOptions {
     std::string steal;     // --steal: the picture colour stealing takes its colours from
     std::string stealIfs;  // --steal-ifs FILE:ENTRY: the colouring IFS, instead of the unit square
     int stealEntry = 0;
+    // --tiles RADIUS: the tile mode, copies at i u + j v for i, j from -RADIUS to RADIUS, u = (t0, t2) and
+    // v = (t1, t3) from --tile-vectors "t0 t1 t2 t3"; in tile colours unless --colors is given.
+    int tiles = -1;
+    std::string tileVectors = "1 0 0 1";
 };
 
 // The names of --colors, colour mode 0 to 7 in order.

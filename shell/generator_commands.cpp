@@ -5,6 +5,8 @@
 #include "shell/generator_window.h"
 #include "shell/sierpinski_window.h"
 #include "shell/symmetric_window.h"
+#include "shell/tiling_settings_window.h"
+#include "shell/tiling_window.h"
 #include "shell/triangle_fractal_window.h"
 
 namespace quillane {
@@ -16,6 +18,8 @@ void RegisterGeneratorCommands(MainWindow& frame) {
     RegisterGenerator(frame, SierpinskiTrianglesExample,
                       [](MainWindow& f) { return new SierpinskiWindow(f); });
     RegisterGenerator(frame, SymmetricFractalsExample, [](MainWindow& f) { return new SymmetricWindow(f); });
+    RegisterGenerator(frame, TilingsExample, [](MainWindow& f) { return new TilingWindow(f); });
+    RegisterTilingSettings(frame);
 }
 
 }  // namespace quillane
