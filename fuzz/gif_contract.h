@@ -12,8 +12,8 @@
 
 namespace quillane::contracts {
 
-// Canvases beyond this are read but not composed here, so one input cannot stall the fuzzer.
-inline constexpr int64_t ComposedCanvasLimit = 4LL * 1024 * 1024;
+// Frames and canvases beyond this are read but not decoded here, so one input cannot stall the fuzzer.
+inline constexpr int64_t ComposedCanvasLimit = 512LL * 512;
 
 inline const char* checkGifRead(const std::string& bytes) {
     const GifFile gif = ReadGifBytes(std::vector<uint8_t>(bytes.begin(), bytes.end()));
@@ -31,6 +31,7 @@ inline const char* checkGifRead(const std::string& bytes) {
         if (t.Count < 0 || t.Count > 256) return "a colour table holds at most 256 colours";
     if (gif.CanvasWidth < 0 || gif.CanvasHeight < 0) return "the canvas has no negative size";
     for (const GifFrame& f : gif.Frames) {
+        if (static_cast<int64_t>(f.Width) * f.Height > ComposedCanvasLimit) continue;
         std::vector<uint8_t> indices;
         size_t decoded = 0;
         if (DecodeFrameIndices(gif, f, indices, decoded) &&

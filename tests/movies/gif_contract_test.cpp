@@ -35,8 +35,8 @@ TEST(GifContract, TheSeedMoviesReadWholeAndKeepTheContract) {
 TEST(GifContract, EveryTruncationAndByteChangeKeepsTheContract) {
     const std::string good = fileBytes(Seeds / "morph.gif");
     ASSERT_FALSE(good.empty());
-    // Every byte of the header, the tables and the first blocks; a sample of the image data after.
-    const auto next = [](size_t i) { return i < 900 ? i + 1 : i + 37; };
+    // Every byte of the header and the first table; a sample of the rest.
+    const auto next = [](size_t i) { return i < 200 ? i + 1 : i + 11; };
     for (size_t n = 0; n <= good.size(); n = next(n))
         ASSERT_EQ(contracts::checkGifRead(good.substr(0, n)), nullptr) << "cut at " << n;
     const unsigned char replacements[] = {0x00, 0x01, 0x21, 0x2C, 0x3B, 0x7F, 0x80, 0xFF};
