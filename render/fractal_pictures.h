@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "core/host.h"
 #include "core/workbench.h"
 #include "render/color_stealing_state.h"
 #include "render/deterministic_state.h"
@@ -42,8 +43,8 @@ struct FractalPictures {
     RasterSurface picImage3;      // the drawing before the last view change
     RasterSurface picImageShift;  // what a shift of the view slides
     RasterSurface picImage;
-    RasterSurface picMask;        // the drawing with the trace dots, ANDed back after an overlay goes
-    RasterSurface picMaskShift;   // picMask at the present scale
+    RasterSurface picMask;       // the drawing with the trace dots, ANDed back after an overlay goes
+    RasterSurface picMaskShift;  // picMask at the present scale
     RasterSurface picImage4;
     RasterSurface picPaste;       // the picture at its present size, floating or placed
     RasterSurface picImagePaste;  // the picture at its own size, which every resize starts from
@@ -73,6 +74,10 @@ struct FractalPictures {
     // Counts the runs of PlayGame begun on these pictures. A run that comes back from a yield in which
     // another run began (a zoom restarts the drawing) sees the change and ends.
     uint32_t RunNumber = 0;
+    // A drawing source that takes PlayGame's loop over while it is set (the complex bases' own
+    // drawing): called with PlayGame's Count and whether the drawing starts afresh; false when it
+    // declines, and the loop runs as usual.
+    std::function<bool(Workbench&, FractalPictures&, Host&, int32_t Count, bool fresh)> PlotSource;
 
     // A new square side in pixels for all areas, cleared to the fractal background.
     void resize(int side, Color back);
