@@ -43,8 +43,8 @@ struct FractalPictures {
     RasterSurface picImage3;      // the drawing before the last view change
     RasterSurface picImageShift;  // what a shift of the view slides
     RasterSurface picImage;
-    RasterSurface picMask;       // the drawing with the trace dots, ANDed back after an overlay goes
-    RasterSurface picMaskShift;  // picMask at the present scale
+    RasterSurface picMask;        // the drawing with the trace dots, ANDed back after an overlay goes
+    RasterSurface picMaskShift;   // picMask at the present scale
     RasterSurface picImage4;
     RasterSurface picPaste;       // the picture at its present size, floating or placed
     RasterSurface picImagePaste;  // the picture at its own size, which every resize starts from
