@@ -35,6 +35,9 @@ struct RenderOptions {
     std::string steal;     // --steal: the picture colour stealing takes its colours from
     std::string stealIfs;  // --steal-ifs FILE:ENTRY: the colouring IFS, instead of the unit square
     int stealEntry = 0;
+    // --complex-base A,B (and --polar): the base's two maps, drawn by the base method; no FILE.
+    std::string complexBase;
+    bool complexPolar = false;
 };
 
 // The names of --colors, colour mode 0 to 7 in order.
