@@ -135,6 +135,8 @@ void ComplexBaseWindow::showColorOptions() {
     if (!o.pixelColorVisible) optIFScolor_->setChecked(true);
     optIFScolor_->setText(QString::fromStdString(o.ifsColorCaption));
     lblWarning_->setVisible(o.warningVisible);
+    // The warning needs its height when it shows.
+    adjustSize();
 }
 
 void ComplexBaseWindow::chooseMethod() {
