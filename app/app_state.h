@@ -7,6 +7,7 @@
 #include "core/gradient_colors.h"
 #include "core/workbench.h"
 #include "design/design_pictures.h"
+#include "generators/complex_base_plot.h"
 #include "render/fractal_pictures.h"
 
 namespace quillane {
@@ -20,6 +21,8 @@ struct AppState {
     // The generator window that is open, and what its Cancel restores.
     GeneratorRun Generator;
     PreviewState Preview;
+    // The complex bases' own drawing: its base, digit row and counts.
+    ComplexBaseState Complex;
 };
 
 }  // namespace quillane

@@ -58,6 +58,11 @@ void mnuRun_Click(Workbench& wb, FractalPictures& pics, Host& host) {
     PlaceFractalSelection(wb, pics);
     if (wb.RandomMode) followWindow(wb, pics);
     host.yield();
+    // A drawing source that takes PlayGame over keeps its own caption and runs in either mode.
+    if (pics.PlotSource) {
+        PlayGame(wb, pics, host, 0, 0);
+        return;
+    }
     if (!wb.RandomMode) {
         wb.FractalCaption = DeterministicCaption;
         Iterate(wb, pics, host, -1);

@@ -134,4 +134,14 @@ bool SierpinskiCreate(AppState& s, Host& host, const SierpinskiForm& form) {
     return true;
 }
 
+bool SierpinskiTwistDraw(const SierpinskiForm& form, const TwistForm& twist, RasterSurface& canvas,
+                         Host& host) {
+    const auto f = SierpinskiFactors(form, host);
+    if (!f) return false;
+    canvas.clear();
+    DrawTwistedSierpinski(canvas, TwistedSierpinski(form.PointA, *f, twist.settings), twist.chkFilled,
+                          twist.byCorner, twist.picColor, TwistCornerColors);
+    return true;
+}
+
 }  // namespace quillane

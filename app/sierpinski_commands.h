@@ -7,6 +7,8 @@
 #include "app/app_state.h"
 #include "core/host.h"
 #include "generators/sierpinski_maps.h"
+#include "generators/twisted_sierpinski.h"
+#include "render/raster_surface.h"
 
 namespace quillane {
 
@@ -34,5 +36,19 @@ void SierpinskiPedalFactors(SierpinskiForm& form);
 std::optional<std::array<float, 3>> SierpinskiFactors(const SierpinskiForm& form, Host& host);
 // cmdCreate: false when refused.
 bool SierpinskiCreate(AppState& s, Host& host, const SierpinskiForm& form);
+
+// The "Twisted Sierpinski Triangle" panel: the same triangle and factors, turned at each cut.
+inline constexpr const char* TwistPanelCaption = "Twisted Sierpinski Triangle";
+inline constexpr const char* TwistSliderCaption = "Amount of twist at each iteration";
+struct TwistForm {
+    TwistSettings settings;
+    bool chkFilled = true;
+    bool byCorner = false;  // optColor(1): a colour for each corner piece; optColor(0): picColor
+    Color picColor = RGB(0, 0, 160);
+};
+inline constexpr std::array<Color, 3> TwistCornerColors{RGB(200, 0, 0), RGB(0, 150, 0), RGB(0, 0, 200)};
+// cmdDraw: the twisted triangle on `canvas` (cleared, its scale kept); false after the factors' message.
+bool SierpinskiTwistDraw(const SierpinskiForm& form, const TwistForm& twist, RasterSurface& canvas,
+                         Host& host);
 
 }  // namespace quillane

@@ -13,6 +13,7 @@
 #include "app/ifs_file_reader.h"
 #include "cli/cli_host.h"
 #include "cli/figures.h"
+#include "cli/generate_command.h"
 #include "cli/list_input.h"
 #include "core/fractal_list.h"
 #include "core/ifs_file_writer.h"
@@ -204,6 +205,7 @@ int RunSave(const Command& cmd) {
 
 int RunRender(const Command& cmd) {
     const RenderOptions& r = cmd.render;
+    if (!r.complexBase.empty()) return RenderComplexBase(r);
     Workbench wb;
     CliHost host;
     if (!ReadList(wb, host, r.file)) return 1;

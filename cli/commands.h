@@ -8,6 +8,8 @@ namespace quillane::cli {
 int RunList(const Command& cmd);
 int RunSave(const Command& cmd);
 int RunRender(const Command& cmd);
+// render --complex-base: the base's IFS built as Complex Bases builds it, drawn by its base method.
+int RenderComplexBase(const RenderOptions& r);
 int RunBench(const Command& cmd);
 // Draws the working IFS of `wb` as render does, from the colour options on; the list options of `r`
 // are not used.

@@ -66,6 +66,7 @@ GeneratorCli TriangleGeneratorCli();
 GeneratorCli SymmetricGeneratorCli();
 GeneratorCli SierpinskiGeneratorCli();
 GeneratorCli TilingGeneratorCli();
+GeneratorCli ComplexGeneratorCli();
 
 // Every generator of the command line, in the order --help gives them.
 const std::vector<GeneratorCli>& CliGenerators();

@@ -9,6 +9,7 @@ const std::vector<GeneratorCli>& CliGenerators() {
         SymmetricGeneratorCli(),
         SierpinskiGeneratorCli(),
         TilingGeneratorCli(),
+        ComplexGeneratorCli(),
     };
     return generators;
 }

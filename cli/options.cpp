@@ -47,6 +47,11 @@ const char* const UsageText =
     "      draws it, the design as the design window shows it, each fitted in a square of\n"
     "      N inches (default 3), and the text below. The text is the matrix and\n"
     "      scale/rotation forms, and the chaos game rules of a chaos game file.\n"
+    "  render --complex-base A,B [--polar] [--colors ifs|visits] [--size PIXELS]\n"
+    "         [--window XMIN,XMAX,YMIN,YMAX] -o OUT\n"
+    "      Draws the sums of distinct powers of the base w = A + Bi (with --polar: R and\n"
+    "      the angle A in radians), modulus below 1, as Complex Bases' base method does:\n"
+    "      all 2^22 - 1 points, in the colour of map 1 or by the visits of each pixel.\n"
     "  render FILE ... [--colors MODE] [--gradient FILE.txt] [--palette FILE.map|FILE.ifp]\n"
     "         [--steal PICTURE [--steal-ifs FILE:ENTRY]]\n"
     "      MODE is ifs (the default), height, width, radial, fixed-points, random, visits\n"
@@ -242,6 +247,10 @@ ParseResult parseRender(const std::vector<std::string>& args) {
                 for (std::istringstream words(v); words >> word;) ++count;
             if (count != 4) return usage("--tile-vectors needs \"T0 T1 T2 T3\"");
             r.tileVectors = v;
+        } else if (a == "--complex-base") {
+            if (!value(r.complexBase) || r.complexBase.empty()) return usage("--complex-base needs A,B");
+        } else if (a == "--polar") {
+            r.complexPolar = true;
         } else if (a == "-o") {
             if (!value(r.output)) return usage("-o needs a file name");
         } else if (!a.empty() && a[0] == '-') {
@@ -252,7 +261,11 @@ ParseResult parseRender(const std::vector<std::string>& args) {
             return usage("render takes one FILE");
         }
     }
-    if (r.file.empty()) return usage("render needs a FILE");
+    if (r.file.empty() == r.complexBase.empty()) return usage("render needs a FILE or --complex-base A,B");
+    if (r.complexPolar && r.complexBase.empty()) return usage("--polar needs --complex-base");
+    if (!r.complexBase.empty() &&
+        (r.deterministic || !r.initial.empty() || (r.colorMode != 0 && r.colorMode != 6)))
+        return usage("--complex-base takes --colors ifs or visits, and no --deterministic or --initial");
     if (levelsGiven && !r.deterministic) return usage("--levels and --figure need --deterministic");
     if (r.figureGiven && !r.initial.empty()) return usage("--figure and --initial exclude each other");
     if (const std::string e = colorUsageError(r); !e.empty()) return usage(e);

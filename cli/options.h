@@ -39,6 +39,9 @@ struct RenderOptions {
     // v = (t1, t3) from --tile-vectors "t0 t1 t2 t3"; in tile colours unless --colors is given.
     int tiles = -1;
     std::string tileVectors = "1 0 0 1";
+    // --complex-base A,B (and --polar): the base's two maps, drawn by the base method; no FILE.
+    std::string complexBase;
+    bool complexPolar = false;
 };
 
 // The names of --colors, colour mode 0 to 7 in order.

@@ -118,16 +118,21 @@ Color VisitCounter::countAndColor(float x, float y) {
     return colorOfCount(cell);
 }
 
-Color VisitCounter::colorOfCount(int h) const {
-    for (int k = 1; k <= c_ - 1; ++k) {
-        if (h <= threshold_[k]) {
-            const double span = threshold_[k] - threshold_[k - 1];
+Color ThresholdColor(const std::array<Color, GradientColorSlots>& colors,
+                     const std::array<double, GradientColorSlots>& threshold, int c, int h) {
+    for (int k = 1; k <= c - 1; ++k) {
+        if (h <= threshold[static_cast<size_t>(k)]) {
+            const double span = threshold[static_cast<size_t>(k)] - threshold[static_cast<size_t>(k - 1)];
             // Equal thresholds leave no band; the count is then at the upper colour.
-            const double f = span != 0 ? (h - threshold_[k - 1]) / span : 1.0;
-            return MixColors(colors_[static_cast<size_t>(k - 1)], colors_[static_cast<size_t>(k)], f);
+            const double f = span != 0 ? (h - threshold[static_cast<size_t>(k - 1)]) / span : 1.0;
+            return MixColors(colors[static_cast<size_t>(k - 1)], colors[static_cast<size_t>(k)], f);
         }
     }
-    return colors_[static_cast<size_t>(c_ - 1)];
+    return colors[static_cast<size_t>(c - 1)];
+}
+
+Color VisitCounter::colorOfCount(int h) const {
+    return ThresholdColor(colors_, threshold_, c_, h);
 }
 
 StealingOrbit::StealingOrbit(ColorStealingState& cs) : cs_(cs) {

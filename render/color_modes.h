@@ -69,6 +69,11 @@ inline Color GradientLookup(const GradientColors& g, double t) {
     return MixColors(g.picColors[static_cast<size_t>(at)], g.picColors[static_cast<size_t>(at + 1)], f);
 }
 
+// The colour of a visit count h by the thresholds T(0) = 0 to T(c - 1) between the gradient's
+// colours: mode 6 and the complex bases' own drawing share it.
+Color ThresholdColor(const std::array<Color, GradientColorSlots>& colors,
+                     const std::array<double, GradientColorSlots>& threshold, int c, int h);
+
 // Modes 1 to 4: t from the attractor bounds, or from the fixed points of the maps, set up once.
 class GradientPosition {
   public:

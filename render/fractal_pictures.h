@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "core/host.h"
 #include "core/workbench.h"
 #include "render/color_stealing_state.h"
 #include "render/deterministic_state.h"
@@ -82,6 +83,10 @@ struct FractalPictures {
     // Counts the runs of PlayGame begun on these pictures. A run that comes back from a yield in which
     // another run began (a zoom restarts the drawing) sees the change and ends.
     uint32_t RunNumber = 0;
+    // A drawing source that takes PlayGame's loop over while it is set (the complex bases' own
+    // drawing): called with PlayGame's Count and whether the drawing starts afresh; false when it
+    // declines, and the loop runs as usual.
+    std::function<bool(Workbench&, FractalPictures&, Host&, int32_t Count, bool fresh)> PlotSource;
 
     // A new square side in pixels for all areas, cleared to the fractal background.
     void resize(int side, Color back);

@@ -329,6 +329,7 @@ void FinishPlayGame(Workbench& wb, FractalPictures& pics) {
 
 void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart, int32_t Count) {
     const int32_t limit = PlayGameLimit(Count, wb.PointCount);
+    const bool fresh = !wb.DrawingStarted || Restart == 1;
     if (Restart == 1) restartPictures(wb, pics);
     // The option button alone decides, whatever colour scheme is in force.
     if (pics.Det.optColoring == VisitCountColorMode && wb.PointCount == 0) ClearHitCount(wb.HitCount);
@@ -365,8 +366,11 @@ void PlayGame(Workbench& wb, FractalPictures& pics, Host& host, int16_t Restart,
     std::optional<TileCopies> tiles;
     if (pics.Tiling.SettingsVisible) tiles = PrepareTileCopies(pics.Tiling, wb.TilingColor);
 
+    // A copy: the source may let go of the loop during one of its yields.
+    const auto source = pics.PlotSource;
     try {
-        while (wb.DrawingActive && wb.PointCount < limit) {
+        const bool handedOver = source && source(wb, pics, host, Count, fresh);
+        while (!handedOver && wb.DrawingActive && wb.PointCount < limit) {
             // A yield may have rescaled, resized or shifted the pictures, so their layout is read anew.
             const PlotTarget target = plotTarget(pics.picfractal, pics.picImage2);
             // Colour mode 0 leaves out the points of a map coloured like the background.

@@ -2,6 +2,7 @@
 
 #include "app/generator_run.h"
 #include "shell/box_fractal_window.h"
+#include "shell/complex_base_window.h"
 #include "shell/generator_window.h"
 #include "shell/sierpinski_window.h"
 #include "shell/symmetric_window.h"
@@ -17,6 +18,7 @@ void RegisterGeneratorCommands(MainWindow& frame) {
                       [](MainWindow& f) { return new TriangleFractalWindow(f); });
     RegisterGenerator(frame, SierpinskiTrianglesExample,
                       [](MainWindow& f) { return new SierpinskiWindow(f); });
+    RegisterGenerator(frame, ComplexBasesExample, [](MainWindow& f) { return new ComplexBaseWindow(f); });
     RegisterGenerator(frame, SymmetricFractalsExample, [](MainWindow& f) { return new SymmetricWindow(f); });
     RegisterGenerator(frame, TilingsExample, [](MainWindow& f) { return new TilingWindow(f); });
     RegisterTilingSettings(frame);

@@ -1,5 +1,8 @@
 #include "shell/sierpinski_window.h"
 
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -9,10 +12,12 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/numbers.h"
+#include "shell/surface_image.h"
 
 namespace quillane {
 namespace {
@@ -35,6 +40,7 @@ class TriangleCanvas : public QWidget {
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
         p.fillRect(rect(), Qt::white);
+        if (const RasterSurface* twist = owner_.twistPicture()) p.drawImage(rect(), ImageOfSurface(*twist));
         const TrianglePoint A = owner_.form().PointA;
         const QPointF a = toScreen(A.x, A.y), b = toScreen(0, 0), c = toScreen(1, 0);
         p.setPen(Qt::black);
@@ -66,6 +72,13 @@ QLineEdit* box(QWidget* parent, const QString& name, const std::string& text) {
     return edit;
 }
 
+QString colorStyle(Color c) {
+    return QString("background-color: #%1%2%3")
+        .arg(RedOf(c), 2, 16, QChar('0'))
+        .arg(GreenOf(c), 2, 16, QChar('0'))
+        .arg(BlueOf(c), 2, 16, QChar('0'));
+}
+
 QPushButton* button(QWidget* parent, const char* name, const char* text) {
     auto* b = new QPushButton(text, parent);
     b->setObjectName(name);
@@ -75,7 +88,8 @@ QPushButton* button(QWidget* parent, const char* name, const char* text) {
 }  // namespace
 
 SierpinskiWindow::SierpinskiWindow(MainWindow& frame)
-    : GeneratorWindow(frame, SierpinskiTrianglesExample, SierpinskiCaption) {
+    : GeneratorWindow(frame, SierpinskiTrianglesExample, SierpinskiCaption), twist_(240, 240, White) {
+    twist_.setScale(CanvasLeft, CanvasTop, CanvasRight, CanvasBottom);
     auto* layout = new QHBoxLayout(body());
     auto* left = new QVBoxLayout;
     picCanvas_ = new TriangleCanvas(*this, body());
@@ -140,6 +154,7 @@ SierpinskiWindow::SierpinskiWindow(MainWindow& frame)
     right->addWidget(picMethod_);
     auto* cmdCreate = button(body(), "cmdCreate", "Create IFS");
     right->addWidget(cmdCreate);
+    right->addWidget(twistPanel());
     right->addStretch();
     layout->addLayout(right);
 
@@ -168,6 +183,74 @@ SierpinskiWindow::SierpinskiWindow(MainWindow& frame)
     connect(txtAy_, &QLineEdit::returnPressed, this, [this] { typedApex(); });
     connect(cmdCreate, &QPushButton::clicked, this, [this] { create(); });
     showForm();
+}
+
+QWidget* SierpinskiWindow::twistPanel() {
+    auto* panel = new QGroupBox(TwistPanelCaption, body());
+    panel->setObjectName("frmTwist");
+    auto* grid = new QGridLayout(panel);
+    grid->addWidget(new QLabel(TwistSliderCaption, panel), 0, 0, 1, 4);
+    grid->addWidget(new QLabel("None", panel), 1, 0);
+    sliTwist_ = new QSlider(Qt::Horizontal, panel);
+    sliTwist_->setObjectName("sliTwist");
+    sliTwist_->setRange(0, TwistSliderMax);
+    sliTwist_->setValue(TwistSliderMax / 5);
+    grid->addWidget(sliTwist_, 1, 1, 1, 2);
+    grid->addWidget(new QLabel("Large", panel), 1, 3);
+    grid->addWidget(new QLabel("Iterations", panel), 2, 0);
+    cmbIterations_ = new QComboBox(panel);
+    cmbIterations_->setObjectName("cmbIterations");
+    for (int n = 1; n <= TwistMaxIterations; ++n) cmbIterations_->addItem(QString::number(n));
+    cmbIterations_->setCurrentIndex(TwistSettings{}.iterations - 1);
+    grid->addWidget(cmbIterations_, 2, 1);
+    chkFilled_ = new QCheckBox("Filled", panel);
+    chkFilled_->setObjectName("chkFilled");
+    chkFilled_->setChecked(true);
+    grid->addWidget(chkFilled_, 2, 2);
+    chkOpenTwist_ = new QCheckBox("Open twist", panel);
+    chkOpenTwist_->setObjectName("chkOpenTwist");
+    grid->addWidget(chkOpenTwist_, 2, 3);
+    optColor_[0] = new QRadioButton("One color", panel);
+    optColor_[1] = new QRadioButton("Color by corner", panel);
+    for (size_t k = 0; k < 2; ++k) optColor_[k]->setObjectName(QString("optColor(%1)").arg(k));
+    auto* colors = new QButtonGroup(panel);
+    colors->addButton(optColor_[0]);
+    colors->addButton(optColor_[1]);
+    optColor_[0]->setChecked(true);
+    grid->addWidget(optColor_[0], 3, 0);
+    picColor_ = button(panel, "picColor", "");
+    picColor_->setFixedSize(28, 20);
+    picColor_->setStyleSheet(colorStyle(twistColor_));
+    grid->addWidget(picColor_, 3, 1);
+    grid->addWidget(optColor_[1], 3, 2);
+    auto* cmdDraw = button(panel, "cmdDraw", "Draw");
+    grid->addWidget(cmdDraw, 3, 3);
+    connect(picColor_, &QPushButton::clicked, this, [this] {
+        if (const auto c = host().chooseColor(twistColor_)) {
+            twistColor_ = *c;
+            picColor_->setStyleSheet(colorStyle(*c));
+        }
+    });
+    connect(cmdDraw, &QPushButton::clicked, this, [this] { drawTwist(); });
+    return panel;
+}
+
+TwistForm SierpinskiWindow::twistForm() const {
+    TwistForm t;
+    t.settings.sliTwist = sliTwist_->value();
+    t.settings.iterations = cmbIterations_->currentIndex() + 1;
+    t.settings.alternate = chkOpenTwist_->isChecked();
+    t.chkFilled = chkFilled_->isChecked();
+    t.byCorner = optColor_[1]->isChecked();
+    t.picColor = twistColor_;
+    return t;
+}
+
+void SierpinskiWindow::drawTwist() {
+    readBoxes();
+    if (!SierpinskiTwistDraw(form_, twistForm(), twist_, host())) return;
+    showTwist_ = true;
+    picCanvas_->update();
 }
 
 void SierpinskiWindow::readBoxes() {
@@ -199,6 +282,8 @@ void SierpinskiWindow::typedApex() {
 }
 
 void SierpinskiWindow::dragApexTo(float x, float y) {
+    // A new apex leaves the twisted picture behind until it is drawn again.
+    showTwist_ = false;
     // The drag stays where the typed checks would let it.
     form_.PointA = {std::clamp(x, 0.001f, 0.999f), std::clamp(y, 0.001f, 0.999f)};
     readBoxes();

@@ -6,9 +6,13 @@
 #include "app/sierpinski_commands.h"
 #include "shell/generator_window.h"
 
+class QCheckBox;
+class QComboBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
+class QSlider;
 
 namespace quillane {
 
@@ -20,11 +24,16 @@ class SierpinskiWindow : public GeneratorWindow {
     // picCanvas: A follows the mouse, kept inside the checks.
     void dragApexTo(float x, float y);
     void create();
+    // The twist panel's cmdDraw; the canvas then shows the twisted triangle under the apex.
+    void drawTwist();
+    const RasterSurface* twistPicture() const { return showTwist_ ? &twist_ : nullptr; }
 
   private:
     void readBoxes();
     void showForm();
     void typedApex();
+    QWidget* twistPanel();
+    TwistForm twistForm() const;
 
     SierpinskiForm form_;
     QWidget* picCanvas_ = nullptr;
@@ -34,6 +43,15 @@ class SierpinskiWindow : public GeneratorWindow {
     std::array<QRadioButton*, 3> opt_{};
     QLineEdit* txtAx_ = nullptr;
     QLineEdit* txtAy_ = nullptr;
+    QSlider* sliTwist_ = nullptr;
+    QComboBox* cmbIterations_ = nullptr;
+    QCheckBox* chkFilled_ = nullptr;
+    QCheckBox* chkOpenTwist_ = nullptr;
+    std::array<QRadioButton*, 2> optColor_{};
+    QPushButton* picColor_ = nullptr;
+    Color twistColor_ = TwistForm{}.picColor;
+    RasterSurface twist_;
+    bool showTwist_ = false;
 };
 
 }  // namespace quillane

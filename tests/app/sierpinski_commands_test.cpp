@@ -129,3 +129,58 @@ TEST_F(SierpinskiCommands, RandomFactorsLieBetweenTwoAndEightTenths) {
 
 }  // namespace
 }  // namespace quillane::testing
+
+namespace quillane::testing {
+namespace {
+
+class TwistDraw : public ::testing::Test {
+  protected:
+    void SetUp() override { canvas.setScale(-0.1, 1.1, 1.1, -0.1); }
+    RasterSurface canvas{120, 120, White};
+    SierpinskiForm form;
+    TwistForm twist;
+    ScriptedHost host;
+};
+
+TEST_F(TwistDraw, RefusesFactorsOutsideTheUnitInterval) {
+    canvas.pset(0.5, 0.5, Black);
+    form.txtPara[1] = "1";
+    EXPECT_FALSE(SierpinskiTwistDraw(form, twist, canvas, host));
+    ASSERT_EQ(host.shown().size(), 1u);
+    EXPECT_EQ(host.shown()[0].title, "Error");
+    EXPECT_EQ(host.shown()[0].text, "Factors must be between 0 and 1");
+    EXPECT_EQ(canvas.point(0.5, 0.5), Black);
+    form.txtPara[1] = "0";
+    EXPECT_FALSE(SierpinskiTwistDraw(form, twist, canvas, host));
+    EXPECT_EQ(host.shown().size(), 2u);
+}
+
+TEST_F(TwistDraw, FilledPiecesLeaveTheMiddleHoleEmpty) {
+    twist.settings.iterations = 1;
+    twist.picColor = RGB(0, 0, 160);
+    ASSERT_TRUE(SierpinskiTwistDraw(form, twist, canvas, host));
+    EXPECT_TRUE(host.shown().empty());
+    EXPECT_EQ(canvas.point(0.2, 0.1), RGB(0, 0, 160));  // inside aBc
+    EXPECT_EQ(canvas.point(0.5, 0.15), White);          // the middle triangle is cut out
+    EXPECT_EQ(canvas.point(0.5, 0.7), RGB(0, 0, 160));  // inside Abc
+}
+
+TEST_F(TwistDraw, OutlinesLeaveTheInsidesEmpty) {
+    twist.settings.iterations = 1;
+    twist.chkFilled = false;
+    ASSERT_TRUE(SierpinskiTwistDraw(form, twist, canvas, host));
+    EXPECT_EQ(canvas.point(0.2, 0.1), White);
+    EXPECT_EQ(canvas.point(0.25, 0.0), twist.picColor);  // on the base
+}
+
+TEST_F(TwistDraw, ByCornerEachPieceTakesItsCornersColour) {
+    twist.settings.iterations = 1;
+    twist.byCorner = true;
+    ASSERT_TRUE(SierpinskiTwistDraw(form, twist, canvas, host));
+    EXPECT_EQ(canvas.point(0.2, 0.1), TwistCornerColors[0]);
+    EXPECT_EQ(canvas.point(0.8, 0.1), TwistCornerColors[1]);
+    EXPECT_EQ(canvas.point(0.5, 0.7), TwistCornerColors[2]);
+}
+
+}  // namespace
+}  // namespace quillane::testing

@@ -1,10 +1,13 @@
 // Sierpinski Triangles through its window: the apex, the factors and the methods by clicks.
 #include "shell/sierpinski_window.h"
 
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTest>
 
 #include "tests/shell/frame_fixture.h"
@@ -70,6 +73,40 @@ TEST_F(SierpinskiWindowTest, AFactorOutsideIsRefused) {
     click(w, "cmdCreate");
     ASSERT_FALSE(host.shown().empty());
     EXPECT_EQ(host.shown().back().text, "Factors must be between 0 and 1");
+}
+
+}  // namespace
+}  // namespace quillane::testing
+
+namespace quillane::testing {
+namespace {
+
+TEST_F(SierpinskiWindowTest, TheTwistPanelDrawsOnTheCanvas) {
+    SierpinskiWindow* w = openWindow();
+    ASSERT_NE(w, nullptr);
+    EXPECT_EQ(child<QGroupBox>(w, "frmTwist")->title(), "Twisted Sierpinski Triangle");
+    auto* slider = child<QSlider>(w, "sliTwist");
+    EXPECT_EQ(slider->minimum(), 0);
+    EXPECT_EQ(slider->maximum(), TwistSliderMax);
+    EXPECT_EQ(child<QComboBox>(w, "cmbIterations")->count(), TwistMaxIterations);
+    EXPECT_EQ(w->twistPicture(), nullptr);
+    click(w, "cmdDraw");
+    ASSERT_NE(w->twistPicture(), nullptr);
+    int painted = 0;
+    const RasterSurface& p = *w->twistPicture();
+    for (int r = 0; r < p.height(); ++r)
+        for (int c = 0; c < p.width(); ++c) painted += p.pixel(c, r) != White;
+    EXPECT_GT(painted, 1000);
+}
+
+TEST_F(SierpinskiWindowTest, TheTwistRefusesAFactorOfOne) {
+    SierpinskiWindow* w = openWindow();
+    ASSERT_NE(w, nullptr);
+    child<QLineEdit>(w, "txtPara(1)")->setText("1");
+    click(w, "cmdDraw");
+    ASSERT_FALSE(host.shown().empty());
+    EXPECT_EQ(host.shown().back().text, "Factors must be between 0 and 1");
+    EXPECT_EQ(w->twistPicture(), nullptr);
 }
 
 }  // namespace
