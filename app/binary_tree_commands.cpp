@@ -146,7 +146,7 @@ TreeFocus BinaryTreeSetup(AppState& s, Host& host, const BinaryTreeForm& form) {
     const TreeMethod method = BinaryTreeMethod(form);
     IFSEntry ifs;
     if (right) {
-        NonSymTreeInput in{left->angle,    left->ratio,   right->angle,       right->ratio,
+        NonSymTreeInput in{left->angle,   left->ratio,   right->angle,       right->ratio,
                            form.txtAngle, form.txtRatio, form.txtAngleRight, form.txtRatioRight};
         ifs = NonSymBinaryTreeIFS(in, method);
     } else {

@@ -19,7 +19,8 @@ Trunk trunkOf(const Workbench& wb) {
     Trunk t;
     const DesignPolygon& poly = wb.InitialPolygon;
     if (wb.DetFigure != 0 || poly.nPoints != 2 || poly.isPenLift(1) || poly.isPenLift(2)) return t;
-    const double dx = static_cast<double>(poly.x[2]) - poly.x[1], dy = static_cast<double>(poly.y[2]) - poly.y[1];
+    const double dx = static_cast<double>(poly.x[2]) - poly.x[1],
+                 dy = static_cast<double>(poly.y[2]) - poly.y[1];
     const double length = std::hypot(dx, dy);
     if (!(length > 0)) return t;
     t.x = poly.x[1];
@@ -35,7 +36,10 @@ Trunk trunkOf(const Workbench& wb) {
 }  // namespace
 
 RecursiveTreeRun::RecursiveTreeRun(Workbench& w, FractalPictures& p, Host& h)
-    : wb(w), pics(p), host(h), level(std::max<int32_t>(w.IterationNumber, 0)),
+    : wb(w),
+      pics(p),
+      host(h),
+      level(std::max<int32_t>(w.IterationNumber, 0)),
       overlay(w.menu("mnuDrawOverlay").checked) {}
 
 Color RecursiveTreeRun::colourOf(int depth, int colour) const {
@@ -52,7 +56,8 @@ Color RecursiveTreeRun::colourOf(int depth, int colour) const {
 
 bool RecursiveTreeRun::step() {
     ++count;
-    pics.Det.pgrIterate = static_cast<int>(std::min<int64_t>(100, count * 100 / std::max<int64_t>(maximum, 1)));
+    pics.Det.pgrIterate =
+        static_cast<int>(std::min<int64_t>(100, count * 100 / std::max<int64_t>(maximum, 1)));
     host.yield();
     return wb.DrawingActive && !pics.Det.IterationAbort;
 }

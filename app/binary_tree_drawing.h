@@ -43,7 +43,8 @@ struct RecursiveTreeRun {
 double PixelSize(const FractalPictures& pics);
 
 // The binary tree's part of a deterministic pass; true when it drew the tree.
-bool BinaryTreeRecursiveLevel(const BinaryTreeRecursion& flags, Workbench& wb, FractalPictures& pics, Host& host);
+bool BinaryTreeRecursiveLevel(const BinaryTreeRecursion& flags, Workbench& wb, FractalPictures& pics,
+                              Host& host);
 // Adds the binary tree's recursive drawing to the deterministic pass; the window holds the flags.
 std::shared_ptr<BinaryTreeRecursion> InstallBinaryTreeDrawing(FractalPictures& pics);
 

@@ -1,7 +1,7 @@
 #include "app/pythagorean_commands.h"
 
-#include "app/deterministic_commands.h"
 #include "app/design_view.h"
+#include "app/deterministic_commands.h"
 #include "core/fractal_list.h"
 #include "core/function_forms.h"
 #include "core/function_table.h"

@@ -15,7 +15,8 @@ constexpr int RecursionLevelLimit = 15;
 // Puts the pen width of both pictures back when the drawing ends.
 class PenWidths {
   public:
-    PenWidths(RasterSurface& a, RasterSurface& b, int width) : a_(a), b_(b), wa_(a.drawWidth()), wb_(b.drawWidth()) {
+    PenWidths(RasterSurface& a, RasterSurface& b, int width)
+        : a_(a), b_(b), wa_(a.drawWidth()), wb_(b.drawWidth()) {
         a.setDrawWidth(width);
         b.setDrawWidth(width);
     }

@@ -65,6 +65,8 @@ GeneratorCli BoxGeneratorCli();
 GeneratorCli TriangleGeneratorCli();
 GeneratorCli SymmetricGeneratorCli();
 GeneratorCli SierpinskiGeneratorCli();
+GeneratorCli BinaryTreeGeneratorCli();
+GeneratorCli PythagoreanGeneratorCli();
 
 // Every generator of the command line, in the order --help gives them.
 const std::vector<GeneratorCli>& CliGenerators();

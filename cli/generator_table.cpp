@@ -8,6 +8,8 @@ const std::vector<GeneratorCli>& CliGenerators() {
         TriangleGeneratorCli(),
         SymmetricGeneratorCli(),
         SierpinskiGeneratorCli(),
+        BinaryTreeGeneratorCli(),
+        PythagoreanGeneratorCli(),
     };
     return generators;
 }

@@ -64,8 +64,8 @@ double SelfContactingRatio(double angleDegrees) {
     if (angleDegrees >= 90) return 1 / (std::sqrt(2 - 3 * ct * ct) - ct);
     const int n = static_cast<int>(std::floor(90 / angleDegrees)) + 1;
     const auto g = [&](double r) {
-        const double top = std::pow(r, n + 1) * std::cos((n - 1) * t) - std::pow(r, n) * std::cos(n * t) -
-                           r * ct + 1;
+        const double top =
+            std::pow(r, n + 1) * std::cos((n - 1) * t) - std::pow(r, n) * std::cos(n * t) - r * ct + 1;
         return r * r * top / (r * r + 1 - 2 * r * ct);
     };
     double lo = 0.5, hi = 0.71;
@@ -115,7 +115,8 @@ IFSEntry SymmetricBinaryTreeIFS(float angle, float ratio, TreeMethod method, con
     const bool tips = ifs.nMaps == 2;
     comments(ifs, {std::string("; Symmetric Binary Tree") + (tips ? " (branch tips)" : ""),
                    "; Branching angle: " + angleText + DegreeSign, "; Scaling ratio: " + ratioText});
-    ifs.Name = "SBT(" + number(angle) + DegreeSign + ", 0" + number(ratio) + ")" + (tips ? " branch tips" : "");
+    ifs.Name =
+        "SBT(" + number(angle) + DegreeSign + ", 0" + number(ratio) + ")" + (tips ? " branch tips" : "");
     return ifs;
 }
 

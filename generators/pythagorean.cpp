@@ -87,8 +87,8 @@ int PythTreeDepthLimit(double phi, double pixel) {
     return limit > 1000 ? 1000 : static_cast<int>(limit);
 }
 
-bool PythTreeBoxFilled(double phi, BoxPainter& paint, int depth, double x, double y, double side, double angle,
-                       int colour) {
+bool PythTreeBoxFilled(double phi, BoxPainter& paint, int depth, double x, double y, double side,
+                       double angle, int colour) {
     const PythBox box = PythBoxCorners(x, y, side, angle);
     const std::vector<WorldPoint> corners{
         {box.x[0], box.y[0]}, {box.x[1], box.y[1]}, {box.x[2], box.y[2]}, {box.x[3], box.y[3]}};
@@ -109,7 +109,8 @@ bool PythTreeBoxFilled(double phi, BoxPainter& paint, int depth, double x, doubl
     // The tip of the triangle on the box's top side.
     const double tipX = box.x[1] + side * cs * std::cos(angle + phi);
     const double tipY = box.y[1] + side * cs * std::sin(angle + phi);
-    if (!PythTreeBoxFilled(phi, paint, depth - 1, box.x[1], box.y[1], side * cs, angle + phi, 0)) return false;
+    if (!PythTreeBoxFilled(phi, paint, depth - 1, box.x[1], box.y[1], side * cs, angle + phi, 0))
+        return false;
     return PythTreeBoxFilled(phi, paint, depth - 1, tipX, tipY, side * sn, angle + phi - Pi / 2, 1);
 }
 

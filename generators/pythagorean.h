@@ -43,7 +43,7 @@ double PythPhi(const IFSEntry& ifs);
 int PythTreeDepthLimit(double phi, double pixel);
 
 // One box and, while depth > 0, its two children. False when the drawing was stopped.
-bool PythTreeBoxFilled(double phi, BoxPainter& paint, int depth, double x, double y, double side, double angle,
-                       int colour);
+bool PythTreeBoxFilled(double phi, BoxPainter& paint, int depth, double x, double y, double side,
+                       double angle, int colour);
 
 }  // namespace quillane

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <string>
 
+#include "core/undo_menu.h"
 #include "render/deterministic_scan.h"
 #include "render/floating_picture.h"
 #include "render/fractal_overlays.h"
-#include "core/undo_menu.h"
 #include "render/initial_figures.h"
 #include "render/picture_figures.h"
 #include "render/scale.h"
@@ -165,7 +165,6 @@ void TakeShiftImage(const Workbench& wb, FractalPictures& pics) {
     pics.picImageShift.setScale(w.xmin, w.ymax, w.xmax, w.ymin);
     pics.picImageShift.takeImage(pics.picfractal);
 }
-
 
 int DeterministicColorMode(const Workbench& wb, const FractalPictures& pics) {
     // Chosen as for the random drawing; here 7 stands for the random strips.

@@ -1,8 +1,12 @@
 #include "shell/generator_commands.h"
 
+#include "app/binary_tree_drawing.h"
 #include "app/generator_run.h"
+#include "app/pythagorean_drawing.h"
+#include "shell/binary_tree_window.h"
 #include "shell/box_fractal_window.h"
 #include "shell/generator_window.h"
+#include "shell/pythagorean_window.h"
 #include "shell/sierpinski_window.h"
 #include "shell/symmetric_window.h"
 #include "shell/triangle_fractal_window.h"
@@ -16,6 +20,11 @@ void RegisterGeneratorCommands(MainWindow& frame) {
     RegisterGenerator(frame, SierpinskiTrianglesExample,
                       [](MainWindow& f) { return new SierpinskiWindow(f); });
     RegisterGenerator(frame, SymmetricFractalsExample, [](MainWindow& f) { return new SymmetricWindow(f); });
+    auto trees = InstallBinaryTreeDrawing(frame.state().pics);
+    InstallPythagoreanDrawing(frame.state().pics);
+    RegisterGenerator(frame, BinaryTreesExample,
+                      [trees](MainWindow& f) { return new BinaryTreeWindow(f, trees); });
+    RegisterGenerator(frame, PythagoreanTreesExample, [](MainWindow& f) { return new PythagoreanWindow(f); });
 }
 
 }  // namespace quillane
