@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/binary_tree_drawing.h"
 #include "app/pythagorean_drawing.h"
 #include "core/initial_polygons.h"
 #include "tree_fixture.h"
