@@ -114,9 +114,9 @@ IFSEntry SymmetricBinaryTreeIFS(float angle, float ratio, TreeMethod method, con
     }
     const bool tips = ifs.nMaps == 2;
     comments(ifs, {std::string("; Symmetric Binary Tree") + (tips ? " (branch tips)" : ""),
-                   "; Branching angle: " + angleText + DegreeSign, "; Scaling ratio: " + ratioText});
+                   "; Branching angle: " + angleText + TreeDegreeSign, "; Scaling ratio: " + ratioText});
     ifs.Name =
-        "SBT(" + number(angle) + DegreeSign + ", 0" + number(ratio) + ")" + (tips ? " branch tips" : "");
+        "SBT(" + number(angle) + TreeDegreeSign + ", 0" + number(ratio) + ")" + (tips ? " branch tips" : "");
     return ifs;
 }
 
@@ -132,12 +132,12 @@ IFSEntry NonSymBinaryTreeIFS(const NonSymTreeInput& in, TreeMethod method) {
     }
     const bool tips = ifs.nMaps == 2;
     comments(ifs, {std::string("; Binary Tree") + (tips ? " (branch tips)" : ""),
-                   "; Left Branching angle: " + in.angleLeftText + DegreeSign,
+                   "; Left Branching angle: " + in.angleLeftText + TreeDegreeSign,
                    "; Left Scaling ratio: " + in.ratioLeftText,
-                   "; Right Branching angle: " + in.angleRightText + DegreeSign,
+                   "; Right Branching angle: " + in.angleRightText + TreeDegreeSign,
                    "; Right Scaling ratio: " + in.ratioRightText});
-    ifs.Name = "IFS [BT(Left:" + number(in.angleLeft) + DegreeSign + "," + number(in.ratioLeft) +
-               "; Right:" + number(in.angleRight) + DegreeSign + "," + number(in.ratioRight) + ")]" +
+    ifs.Name = "IFS [BT(Left:" + number(in.angleLeft) + TreeDegreeSign + "," + number(in.ratioLeft) +
+               "; Right:" + number(in.angleRight) + TreeDegreeSign + "," + number(in.ratioRight) + ")]" +
                (tips ? " (branch tips)" : "");
     return ifs;
 }

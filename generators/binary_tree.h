@@ -10,8 +10,8 @@
 
 namespace quillane {
 
-// The degree sign of the comments and names (character 176 of the 8-bit files).
-inline constexpr const char* DegreeSign = "\xB0";
+// The degree sign (character 176) of the comments and names, in the program's UTF-8 text.
+inline constexpr const char* TreeDegreeSign = "\xC2\xB0";
 
 // optDet, or optRandom with or without chkTips ("Branch tips only").
 enum class TreeMethod { Deterministic, Random, Tips };

@@ -6,6 +6,7 @@
 #include "shell/binary_tree_window.h"
 #include "shell/box_fractal_window.h"
 #include "shell/generator_window.h"
+#include "shell/main_window.h"
 #include "shell/pythagorean_window.h"
 #include "shell/sierpinski_window.h"
 #include "shell/symmetric_window.h"

@@ -92,8 +92,8 @@ TEST_F(BinaryTreeCommands, ExpressionsAreEvaluated) {
     form.txtAngle = "90/2";
     form.txtRatio = "1/2";
     ASSERT_EQ(BinaryTreeSetup(s, host, form), TreeFocus::None);
-    EXPECT_EQ(s.wb.CurrentIFS.Name, "SBT(45\xB0, 0.5)");
-    EXPECT_EQ(s.wb.CurrentIFS.Comment[2], "; Branching angle: 90/2\xB0");
+    EXPECT_EQ(s.wb.CurrentIFS.Name, "SBT(45\xC2\xB0, 0.5)");
+    EXPECT_EQ(s.wb.CurrentIFS.Comment[2], "; Branching angle: 90/2\xC2\xB0");
 }
 
 TEST_F(BinaryTreeCommands, TickingTipsSelectsTheRandomMethod) {
@@ -119,7 +119,7 @@ TEST_F(BinaryTreeCommands, CreateIFSTakesTheVerticalLineAndShowsTheTree) {
     for (int k = 0; k <= UserPolygonItem; ++k)
         EXPECT_EQ(s.wb.menu(MenuTable::key("mnupoly", k)).checked, k == 5) << k;
     EXPECT_EQ(s.wb.DetFigure, 0);
-    EXPECT_EQ(s.wb.FunctionsCaption, "IFS [SBT(60\xB0, 0.6)]");
+    EXPECT_EQ(s.wb.FunctionsCaption, "IFS [SBT(60\xC2\xB0, 0.6)]");
     EXPECT_EQ(s.wb.txtMaps, "3");
     EXPECT_EQ(s.wb.lblComment, "; Symmetric Binary Tree");
     EXPECT_TRUE(s.Generator.SetupDone);

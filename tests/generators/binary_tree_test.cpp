@@ -59,9 +59,9 @@ TEST(BinaryTree, DeterministicVariantHasTheIdentityTrunk) {
     EXPECT_TRUE(CheckBinaryTree(t));
     EXPECT_EQ(t.nComments, 3);
     EXPECT_EQ(t.Comment[1], "; Symmetric Binary Tree");
-    EXPECT_EQ(t.Comment[2], "; Branching angle: 60\xB0");
+    EXPECT_EQ(t.Comment[2], "; Branching angle: 60\xC2\xB0");
     EXPECT_EQ(t.Comment[3], "; Scaling ratio: 0.5");
-    EXPECT_EQ(t.Name, "SBT(60\xB0, 0.5)");
+    EXPECT_EQ(t.Name, "SBT(60\xC2\xB0, 0.5)");
 }
 
 TEST(BinaryTree, BranchTipsAreTwoMapsOfHalfWeight) {
@@ -70,7 +70,7 @@ TEST(BinaryTree, BranchTipsAreTwoMapsOfHalfWeight) {
     EXPECT_EQ(t.p[0], 0.5f);
     EXPECT_EQ(t.p[1], 0.5f);
     EXPECT_EQ(t.Comment[1], "; Symmetric Binary Tree (branch tips)");
-    EXPECT_EQ(t.Name, "SBT(45\xB0, 0.6) branch tips");
+    EXPECT_EQ(t.Name, "SBT(45\xC2\xB0, 0.6) branch tips");
     EXPECT_FALSE(CheckBinaryTree(t));
 }
 
@@ -108,17 +108,17 @@ TEST(BinaryTree, NonSymmetricTreeHasItsOwnSidesAndFiveComments) {
     EXPECT_FLOAT_EQ(t.c[1], static_cast<float>(-0.5 * std::sin(50 * 0.017453292522222223)));
     EXPECT_EQ(t.nComments, 5);
     EXPECT_EQ(t.Comment[1], "; Binary Tree");
-    EXPECT_EQ(t.Comment[2], "; Left Branching angle: 30\xB0");
+    EXPECT_EQ(t.Comment[2], "; Left Branching angle: 30\xC2\xB0");
     EXPECT_EQ(t.Comment[3], "; Left Scaling ratio: 0.7");
-    EXPECT_EQ(t.Comment[4], "; Right Branching angle: 50\xB0");
+    EXPECT_EQ(t.Comment[4], "; Right Branching angle: 50\xC2\xB0");
     EXPECT_EQ(t.Comment[5], "; Right Scaling ratio: .5");
-    EXPECT_EQ(t.Name, "IFS [BT(Left:30\xB0,.7; Right:50\xB0,.5)]");
+    EXPECT_EQ(t.Name, "IFS [BT(Left:30\xC2\xB0,.7; Right:50\xC2\xB0,.5)]");
     EXPECT_TRUE(CheckNonSymBinaryTree(t));
     EXPECT_FALSE(CheckBinaryTree(t));
     const IFSEntry tips = NonSymBinaryTreeIFS(in, TreeMethod::Random);
     EXPECT_EQ(tips.nMaps, 2);
     EXPECT_EQ(tips.Comment[1], "; Binary Tree (branch tips)");
-    EXPECT_EQ(tips.Name, "IFS [BT(Left:30\xB0,.7; Right:50\xB0,.5)] (branch tips)");
+    EXPECT_EQ(tips.Name, "IFS [BT(Left:30\xC2\xB0,.7; Right:50\xC2\xB0,.5)] (branch tips)");
 }
 
 TEST(BinaryTree, CheckFailsOnceATranslationOrTheTrunkIsAltered) {

@@ -82,8 +82,8 @@ TEST_F(TreeWindows, BinaryTreeCloseKeepsAndCancelRestores) {
     ASSERT_NE(w, nullptr);
     const IFSEntry before = wb().CurrentIFS;
     click(w, "cmdSetup");
-    EXPECT_EQ(wb().CurrentIFS.Name, "SBT(60\xB0, 0.6)");
-    EXPECT_EQ(wb().FunctionsCaption, "IFS [SBT(60\xB0, 0.6)]");
+    EXPECT_EQ(wb().CurrentIFS.Name, "SBT(60\xC2\xB0, 0.6)");
+    EXPECT_EQ(wb().FunctionsCaption, "IFS [SBT(60\xC2\xB0, 0.6)]");
     auto* cancel = dynamic_cast<GeneratorWindow*>(w)->cancelButton();
     QTest::mouseClick(cancel, Qt::LeftButton);
     EXPECT_EQ(wb().CurrentIFS, before);
@@ -93,7 +93,7 @@ TEST_F(TreeWindows, BinaryTreeCloseKeepsAndCancelRestores) {
     child<QLineEdit>(w, "txtAngle")->setText("100");
     click(w, "cmdSetup");
     QTest::mouseClick(dynamic_cast<GeneratorWindow*>(w)->closeButton(), Qt::LeftButton);
-    EXPECT_EQ(wb().CurrentIFS.Name, "SBT(100\xB0, 0.6)");
+    EXPECT_EQ(wb().CurrentIFS.Name, "SBT(100\xC2\xB0, 0.6)");
     EXPECT_TRUE(item("mnuDesignExample(7)")->isEnabled());
 }
 
