@@ -67,6 +67,8 @@ GeneratorCli SymmetricGeneratorCli();
 GeneratorCli SierpinskiGeneratorCli();
 GeneratorCli TilingGeneratorCli();
 GeneratorCli ComplexGeneratorCli();
+GeneratorCli BinaryTreeGeneratorCli();
+GeneratorCli PythagoreanGeneratorCli();
 
 // Every generator of the command line, in the order --help gives them.
 const std::vector<GeneratorCli>& CliGenerators();

@@ -10,6 +10,8 @@ const std::vector<GeneratorCli>& CliGenerators() {
         SierpinskiGeneratorCli(),
         TilingGeneratorCli(),
         ComplexGeneratorCli(),
+        BinaryTreeGeneratorCli(),
+        PythagoreanGeneratorCli(),
     };
     return generators;
 }

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <string>
 
+#include "core/undo_menu.h"
 #include "render/deterministic_scan.h"
 #include "render/floating_picture.h"
 #include "render/fractal_overlays.h"
-#include "core/undo_menu.h"
 #include "render/initial_figures.h"
 #include "render/picture_figures.h"
 #include "render/scale.h"
@@ -101,6 +101,18 @@ bool overlayLevel(Workbench& wb, FractalPictures& pics, Host& host, int which, i
     return true;
 }
 
+// A generator that draws its IFS itself takes the place of the level.
+bool recursiveLevel(Workbench& wb, FractalPictures& pics, Host& host) {
+    for (const RecursiveDrawing& draw : pics.Det.RecursiveDrawings) {
+        if (!draw || !draw(wb, pics, host)) continue;
+        pics.picImage4.takeImage(pics.picfractal);
+        pics.picImage3.takeImage(pics.picImage);
+        pics.Det.CountSuffix = RecursionSuffix;
+        return true;
+    }
+    return false;
+}
+
 void startLevel(Workbench& wb, FractalPictures& pics, bool overlay) {
     wb.DrawingActive = true;
     pics.Det.IterationAbort = false;
@@ -158,7 +170,6 @@ void TakeShiftImage(const Workbench& wb, FractalPictures& pics) {
     pics.picImageShift.takeImage(pics.picfractal);
 }
 
-
 int DeterministicColorMode(const Workbench& wb, const FractalPictures& pics) {
     // Chosen as for the random drawing; here 7 stands for the random strips.
     if (wb.menu(MenuTable::key("mnuColors", 2)).checked) return 7;
@@ -171,8 +182,9 @@ void Iterate(Workbench& wb, FractalPictures& pics, Host& host, int Which) {
     const bool overlay = wb.menu("mnuDrawOverlay").checked;
     startLevel(wb, pics, overlay);
     pics.Det.picCoordVisible = false;
-    const bool done = overlay ? overlayLevel(wb, pics, host, Which, wb.IterationNumber + 1)
-                              : plainLevel(wb, pics, host, Which);
+    const bool done = (Which < 0 && recursiveLevel(wb, pics, host)) ||
+                      (overlay ? overlayLevel(wb, pics, host, Which, wb.IterationNumber + 1)
+                               : plainLevel(wb, pics, host, Which));
     if (done && !pics.Det.IterationAbort) {
         TakeShiftImage(wb, pics);
         pics.picImage2.takeImage(pics.picfractal);

@@ -20,6 +20,9 @@ struct FractalPictures;
 // Returns false when the person cancelled; nothing has changed then.
 using DetFigureDrawer = std::function<bool(Workbench& wb, FractalPictures& pics, Host& host, int Figure,
                                            bool ShowDialog, bool ResetWindow)>;
+// A generator's own drawing of its IFS in place of a level; true when it drew. The generators add
+// theirs, and a level takes the first that draws.
+using RecursiveDrawing = std::function<bool(Workbench& wb, FractalPictures& pics, Host& host)>;
 // The colour of a gradient mode (1..4, 7) at a colouring position in world units.
 using DetGradientColor = std::function<Color(int mode, float x, float y)>;
 
@@ -55,6 +58,7 @@ struct DeterministicState {
     // here takes the place of the gradient of the workbench.
     DetFigureDrawer FigureDrawer;
     DetGradientColor GradientColor;
+    std::vector<RecursiveDrawing> RecursiveDrawings;
     // The clipboard's bitmap for the clipboard figure; nothing when it holds none.
     std::function<std::optional<RasterSurface>()> ClipboardBitmap;
 
