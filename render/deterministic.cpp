@@ -4,10 +4,10 @@
 #include <cmath>
 #include <string>
 
+#include "core/undo_menu.h"
 #include "render/deterministic_scan.h"
 #include "render/floating_picture.h"
 #include "render/fractal_overlays.h"
-#include "core/undo_menu.h"
 #include "render/initial_figures.h"
 #include "render/picture_figures.h"
 #include "render/scale.h"
@@ -114,6 +114,21 @@ void startLevel(Workbench& wb, FractalPictures& pics, bool overlay) {
     pics.Det.pgrIterateVisible = true;
 }
 
+// A generator's recursion draws the level when one of them takes it: the trees first, then the
+// line-based ones.
+bool recursiveLevel(Workbench& wb, FractalPictures& pics, Host& host) {
+    for (size_t slot : {2u, 3u, 0u, 1u}) {
+        const DetRecursiveDrawing& draw = pics.Det.RecursiveDrawings[slot];
+        if (wb.RecursionOff[slot] || !draw || !draw(wb, pics, host)) continue;
+        pics.picImage4.takeImage(pics.picfractal);
+        TakeShiftImage(wb, pics);
+        pics.picImage3.takeImage(pics.picImage);
+        pics.Det.CountSuffix = RecursionSuffix;
+        return true;
+    }
+    return false;
+}
+
 void endLevel(Workbench& wb, FractalPictures& pics, bool picCoordWasVisible) {
     pics.Det.picCoordVisible = picCoordWasVisible;
     pics.Det.pgrIterateVisible = false;
@@ -154,7 +169,6 @@ void TakeShiftImage(const Workbench& wb, FractalPictures& pics) {
     pics.picImageShift.takeImage(pics.picfractal);
 }
 
-
 int DeterministicColorMode(const Workbench& wb, const FractalPictures& pics) {
     // Chosen as for the random drawing; here 7 stands for the random strips.
     if (wb.menu(MenuTable::key("mnuColors", 2)).checked) return 7;
@@ -167,8 +181,9 @@ void Iterate(Workbench& wb, FractalPictures& pics, Host& host, int Which) {
     const bool overlay = wb.menu("mnuDrawOverlay").checked;
     startLevel(wb, pics, overlay);
     pics.Det.picCoordVisible = false;
-    const bool done = overlay ? overlayLevel(wb, pics, host, Which, wb.IterationNumber + 1)
-                              : plainLevel(wb, pics, host, Which);
+    const bool done = recursiveLevel(wb, pics, host) ||
+                      (overlay ? overlayLevel(wb, pics, host, Which, wb.IterationNumber + 1)
+                               : plainLevel(wb, pics, host, Which));
     if (done && !pics.Det.IterationAbort) {
         TakeShiftImage(wb, pics);
         pics.picImage2.takeImage(pics.picfractal);
@@ -213,6 +228,7 @@ bool DrawDetWindowFigure(Workbench& wb, FractalPictures& pics, Host& host, int F
     }
     pics.Det.DetWindow = wb.Window;
     pics.Det.DetWindowStored = true;
+    wb.KochRecursionAllowed = Figure == 0 && wb.InitialPolygon.Kind == 4;
     return true;
 }
 
