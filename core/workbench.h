@@ -131,7 +131,7 @@ class Workbench {
     int16_t LineThickness = 0;  // 0, 2 or 4: twice the index of the checked mnuDesignLine item
 
     // Files and settings.
-    std::string IFSFileName;    // the list's file, empty when none is loaded
+    std::string IFSFileName;  // the list's file, empty when none is loaded
     int SavePictureFilter = 1;  // the picture save dialog's last filter, kept until the program ends
     std::array<std::string, RecentFileSlots> RecentFiles;
     int RecentFileCount = 0;
@@ -139,7 +139,7 @@ class Workbench {
     // Window places and switches the settings file keeps, as last read or written.
     WindowPositions Windows = SetDefaultWindowPositions(0);
     std::array<bool, 3> MainWindowHidden{};  // function table, fractal, design
-    bool ColorStealingTraceFolded = false;   // its window then stands 2130 narrower than it is kept
+    bool ColorStealingTraceFolded = false;  // its window then stands 2130 narrower than it is kept
 
     // Number of mnuNames items loaded: 4 for an empty list, 5 + n for n entries.
     int NamesItemCount = 4;
@@ -180,9 +180,9 @@ class Workbench {
     struct ScaleCGControls {
         bool Loaded = false, Showing = false;
         int cmbFP = 0;
-        std::array<bool, 5> chkStep{};       // 1..4: S, R, H, V
-        std::array<std::string, 5> txtStep;  // 1..4
-        int BoldStep = 0;                    // the box marked for a swap, 0 when none
+        std::array<bool, 5> chkStep{};          // 1..4: S, R, H, V
+        std::array<std::string, 5> txtStep;    // 1..4
+        int BoldStep = 0;                       // the box marked for a swap, 0 when none
         int sliScale = 0, sliRotate = 0;
         std::string txtS, txtRotate;
         bool ScaleEnabled = false, RotateEnabled = false;

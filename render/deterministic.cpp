@@ -4,10 +4,10 @@
 #include <cmath>
 #include <string>
 
-#include "core/undo_menu.h"
 #include "render/deterministic_scan.h"
 #include "render/floating_picture.h"
 #include "render/fractal_overlays.h"
+#include "core/undo_menu.h"
 #include "render/initial_figures.h"
 #include "render/picture_figures.h"
 #include "render/scale.h"
