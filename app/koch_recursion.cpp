@@ -44,8 +44,7 @@ bool KochRecursivePass(Workbench& wb, FractalPictures& pics, Host& host, int n, 
     const std::vector<float> turns = KochTurns(n);
     RasterSurface& view = pics.picfractal;
     const double pixel = view.width() > 0 ? std::abs(view.scaleRight() - view.scaleLeft()) / view.width() : 0;
-    const int L =
-        KochRecursionLevel(std::max(wb.IterationNumber, 0), KochRecursionLimits(n, wb.KochRatio, pixel));
+    const int L = KochRecursionLevel(wb.IterationNumber, KochRecursionLimits(n, wb.KochRatio, pixel));
 
     const bool overlay = wb.menu("mnuDrawOverlay").checked;
     PassSink sink{wb, pics, host};
