@@ -3,6 +3,7 @@
 #include "app/generator_run.h"
 #include "shell/box_fractal_window.h"
 #include "shell/generator_window.h"
+#include "shell/koch_window.h"
 #include "shell/sierpinski_window.h"
 #include "shell/symmetric_window.h"
 #include "shell/triangle_fractal_window.h"
@@ -16,6 +17,7 @@ void RegisterGeneratorCommands(MainWindow& frame) {
     RegisterGenerator(frame, SierpinskiTrianglesExample,
                       [](MainWindow& f) { return new SierpinskiWindow(f); });
     RegisterGenerator(frame, SymmetricFractalsExample, [](MainWindow& f) { return new SymmetricWindow(f); });
+    RegisterGenerator(frame, KochCurvesExample, [](MainWindow& f) { return new KochWindow(f); });
 }
 
 }  // namespace quillane
