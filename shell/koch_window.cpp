@@ -99,11 +99,6 @@ KochWindow::KochWindow(MainWindow& frame) : GeneratorWindow(frame, KochCurvesExa
         option->setObjectName(QStringLiteral("optIter(%1)").arg(k));
         levelRow->addWidget(option);
         optIter_[static_cast<size_t>(k)] = option;
-        connect(option, &QRadioButton::toggled, this, [this, k](bool on) {
-            if (!on) return;
-            form_.PreviewLevel = k + 1;
-            drawPreview();
-        });
     }
     optIter_[0]->setChecked(true);
     side->addWidget(levels);
@@ -131,6 +126,12 @@ KochWindow::KochWindow(MainWindow& frame) : GeneratorWindow(frame, KochCurvesExa
     picCanvas_->setFixedSize(surface_.width(), surface_.height());
     layout->addWidget(picCanvas_);
 
+    for (int k = 0; k < 3; ++k)
+        connect(optIter_[static_cast<size_t>(k)], &QRadioButton::toggled, this, [this, k](bool on) {
+            if (!on) return;
+            form_.PreviewLevel = k + 1;
+            drawPreview();
+        });
     connect(cmdFit, &QPushButton::clicked, this, [this] { drawPreview(); });
     connect(cmdCreate, &QPushButton::clicked, this, [this] { create(); });
     connect(cmdAvoid, &QPushButton::clicked, this, [this] {
