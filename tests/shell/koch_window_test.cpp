@@ -94,12 +94,12 @@ TEST_F(KochWindowTest, ARefusalNamesTheBoxAndGivesItTheFocus) {
     ASSERT_FALSE(host.shown().empty());
     EXPECT_EQ(host.shown().back().title, "Error");
     EXPECT_EQ(host.shown().back().text, "The number of edges can be at most 60");
-    EXPECT_TRUE(child<QLineEdit>(w, "txtN")->hasFocus());
+    EXPECT_EQ(w->focusWidget(), child<QLineEdit>(w, "txtN"));
     child<QLineEdit>(w, "txtN")->setText("3");
     child<QLineEdit>(w, "txtC")->setText("1.5");
     click(w, "cmdFit");
     EXPECT_EQ(host.shown().back().text, "The edge length must be less than 1");
-    EXPECT_TRUE(child<QLineEdit>(w, "txtC")->hasFocus());
+    EXPECT_EQ(w->focusWidget(), child<QLineEdit>(w, "txtC"));
 }
 
 TEST_F(KochWindowTest, CreateWithRecursionDrawsTheCurveAndCancelRestores) {
