@@ -99,9 +99,9 @@ bool BinaryTreeRecursiveLevel(const BinaryTreeRecursion& flags, Workbench& wb, F
 
 std::shared_ptr<BinaryTreeRecursion> InstallBinaryTreeDrawing(FractalPictures& pics) {
     auto flags = std::make_shared<BinaryTreeRecursion>();
-    pics.Det.RecursiveDrawings.push_back([flags](Workbench& wb, FractalPictures& p, Host& host) {
+    pics.Det.RecursiveDrawings[BinaryTreeSlot] = [flags](Workbench& wb, FractalPictures& p, Host& host) {
         return BinaryTreeRecursiveLevel(*flags, wb, p, host);
-    });
+    };
     return flags;
 }
 

@@ -68,9 +68,9 @@ bool PythagoreanTree(const PythagoreanRecursion& flags, Workbench& wb, FractalPi
 
 std::shared_ptr<PythagoreanRecursion> InstallPythagoreanDrawing(FractalPictures& pics) {
     auto flags = std::make_shared<PythagoreanRecursion>();
-    pics.Det.RecursiveDrawings.push_back([flags](Workbench& wb, FractalPictures& p, Host& host) {
+    pics.Det.RecursiveDrawings[PythagoreanSlot] = [flags](Workbench& wb, FractalPictures& p, Host& host) {
         return PythagoreanTree(*flags, wb, p, host);
-    });
+    };
     return flags;
 }
 

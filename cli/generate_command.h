@@ -69,6 +69,7 @@ GeneratorCli TilingGeneratorCli();
 GeneratorCli ComplexGeneratorCli();
 GeneratorCli BinaryTreeGeneratorCli();
 GeneratorCli PythagoreanGeneratorCli();
+GeneratorCli KochGeneratorCli();
 
 // Every generator of the command line, in the order --help gives them.
 const std::vector<GeneratorCli>& CliGenerators();

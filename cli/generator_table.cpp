@@ -12,6 +12,7 @@ const std::vector<GeneratorCli>& CliGenerators() {
         ComplexGeneratorCli(),
         BinaryTreeGeneratorCli(),
         PythagoreanGeneratorCli(),
+        KochGeneratorCli(),
     };
     return generators;
 }

@@ -64,6 +64,11 @@ class Workbench {
     int32_t IterationNumber = 0;
     int16_t DetFigure = 0;
     std::array<bool, 4> RecursionOff{};
+    // Koch curves: the window's "Use recursion", whether the initial figure lets the curve be drawn by
+    // its recursion (the horizontal unit line in outline), and the ratio that limits the recursion.
+    bool UseKochRecursion = false;
+    bool KochRecursionAllowed = false;
+    float KochRatio = 0;
     std::string FractalCaption = "Fractal (Random)";
     // The gradient of the gradient colour modes, and the visit counts of mode 6: 1000 x 1000 16-bit
     // counters, cell (i, j) at i + 1000 j, allocated on first use.

@@ -101,18 +101,6 @@ bool overlayLevel(Workbench& wb, FractalPictures& pics, Host& host, int which, i
     return true;
 }
 
-// A generator that draws its IFS itself takes the place of the level.
-bool recursiveLevel(Workbench& wb, FractalPictures& pics, Host& host) {
-    for (const RecursiveDrawing& draw : pics.Det.RecursiveDrawings) {
-        if (!draw || !draw(wb, pics, host)) continue;
-        pics.picImage4.takeImage(pics.picfractal);
-        pics.picImage3.takeImage(pics.picImage);
-        pics.Det.CountSuffix = RecursionSuffix;
-        return true;
-    }
-    return false;
-}
-
 void startLevel(Workbench& wb, FractalPictures& pics, bool overlay) {
     wb.DrawingActive = true;
     pics.Det.IterationAbort = false;
@@ -128,6 +116,21 @@ void startLevel(Workbench& wb, FractalPictures& pics, bool overlay) {
     if (overlay) fill(pics.picMask, White);
     pics.Det.pgrIterate = 0;
     pics.Det.pgrIterateVisible = true;
+}
+
+// A generator's recursion draws the level when one of them takes it: the trees first, then the
+// line-based ones.
+bool recursiveLevel(Workbench& wb, FractalPictures& pics, Host& host) {
+    for (size_t slot : {2u, 3u, 0u, 1u}) {
+        const DetRecursiveDrawing& draw = pics.Det.RecursiveDrawings[slot];
+        if (wb.RecursionOff[slot] || !draw || !draw(wb, pics, host)) continue;
+        pics.picImage4.takeImage(pics.picfractal);
+        TakeShiftImage(wb, pics);
+        pics.picImage3.takeImage(pics.picImage);
+        pics.Det.CountSuffix = RecursionSuffix;
+        return true;
+    }
+    return false;
 }
 
 void endLevel(Workbench& wb, FractalPictures& pics, bool picCoordWasVisible) {
@@ -229,6 +232,7 @@ bool DrawDetWindowFigure(Workbench& wb, FractalPictures& pics, Host& host, int F
     }
     pics.Det.DetWindow = wb.Window;
     pics.Det.DetWindowStored = true;
+    wb.KochRecursionAllowed = Figure == 0 && wb.InitialPolygon.Kind == 4;
     return true;
 }
 

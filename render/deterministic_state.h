@@ -1,6 +1,7 @@
 #pragma once
 // What the deterministic drawing keeps between levels and between commands. Part of the fractal
 // window's pictures, so a test that makes fresh pictures starts from a fresh state.
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -20,11 +21,10 @@ struct FractalPictures;
 // Returns false when the person cancelled; nothing has changed then.
 using DetFigureDrawer = std::function<bool(Workbench& wb, FractalPictures& pics, Host& host, int Figure,
                                            bool ShowDialog, bool ResetWindow)>;
-// A generator's own drawing of its IFS in place of a level; true when it drew. The generators add
-// theirs, and a level takes the first that draws.
-using RecursiveDrawing = std::function<bool(Workbench& wb, FractalPictures& pics, Host& host)>;
 // The colour of a gradient mode (1..4, 7) at a colouring position in world units.
 using DetGradientColor = std::function<Color(int mode, float x, float y)>;
+// A generator's own recursive drawing of a level in place of the maps; true when it drew.
+using DetRecursiveDrawing = std::function<bool(Workbench& wb, FractalPictures& pics, Host& host)>;
 
 struct DeterministicState {
     bool IterationAbort = false;
@@ -58,7 +58,9 @@ struct DeterministicState {
     // here takes the place of the gradient of the workbench.
     DetFigureDrawer FigureDrawer;
     DetGradientColor GradientColor;
-    std::vector<RecursiveDrawing> RecursiveDrawings;
+    // The recursive drawings by slot of RecursionOff: 0 line fractal, 1 Koch curve, 2 binary tree,
+    // 3 Pythagorean tree. A slot whose flag is set gives way to the maps.
+    std::array<DetRecursiveDrawing, 4> RecursiveDrawings;
     // The clipboard's bitmap for the clipboard figure; nothing when it holds none.
     std::function<std::optional<RasterSurface>()> ClipboardBitmap;
 

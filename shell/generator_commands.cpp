@@ -9,6 +9,7 @@
 #include "shell/generator_window.h"
 #include "shell/main_window.h"
 #include "shell/pythagorean_window.h"
+#include "shell/koch_window.h"
 #include "shell/sierpinski_window.h"
 #include "shell/symmetric_window.h"
 #include "shell/tiling_settings_window.h"
@@ -32,6 +33,7 @@ void RegisterGeneratorCommands(MainWindow& frame) {
     RegisterGenerator(frame, BinaryTreesExample,
                       [trees](MainWindow& f) { return new BinaryTreeWindow(f, trees); });
     RegisterGenerator(frame, PythagoreanTreesExample, [](MainWindow& f) { return new PythagoreanWindow(f); });
+    RegisterGenerator(frame, KochCurvesExample, [](MainWindow& f) { return new KochWindow(f); });
 }
 
 }  // namespace quillane

@@ -70,7 +70,7 @@ TEST_F(PythagoreanCommands, RefusedAngleChangesNothing) {
 
 TEST_F(PythagoreanCommands, OutlineRecursionDrawsWhatTheDeterministicLevelsDraw) {
     ASSERT_TRUE(PythagoreanSetup(s, host, "40"));
-    s.pics.Det.RecursiveDrawings.clear();
+    s.pics.Det.RecursiveDrawings = {};
     for (int k = 0; k < 4; ++k) level();
     const RasterSurface plain = s.pics.picfractal;
     EXPECT_EQ(s.pics.picCount, "4");
