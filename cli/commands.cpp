@@ -176,6 +176,10 @@ int RunRender(const Command& cmd) {
     CliHost host;
     if (!ReadList(wb, host, r.file)) return 1;
     if (!TakeEntry(wb, host, r.file, r.entry)) return 1;
+    return DrawWorkingIFS(wb, host, r);
+}
+
+int DrawWorkingIFS(Workbench& wb, CliHost& host, const RenderOptions& r) {
     if (!readColorFiles(wb, r)) return 1;
     if (r.seed) wb.Rng.pin(*r.seed);
     // The gradients by place span the attractor, which setscale samples, whatever the window.

@@ -27,14 +27,14 @@ int main(int argc, char** argv) {
     const std::vector<std::string> args(argv + 1, argv + argc);
     const ParseResult parsed = ParseCommandLine(args);
     if (!parsed.command) {
-        std::cerr << "quillane-cli: " << parsed.error << "\n\n" << UsageText;
+        std::cerr << "quillane-cli: " << parsed.error << "\n\n" << FullUsageText();
         return 2;
     }
     const Command& cmd = *parsed.command;
     try {
         switch (cmd.kind) {
             case Command::Help:
-                std::cout << UsageText;
+                std::cout << FullUsageText();
                 return 0;
             case Command::List:
                 if (cmd.files.empty()) return RunList(withDefaultList(cmd, argv[0]));
@@ -51,6 +51,8 @@ int main(int argc, char** argv) {
                 return RunMovie(cmd.movie);
             case Command::GifInfo:
                 return RunGifInfo(cmd.files[0]);
+            case Command::Generate:
+                return RunGenerate(cmd.generate);
         }
     } catch (const std::exception& e) {
         std::cerr << "quillane-cli: " << e.what() << "\n";

@@ -68,12 +68,22 @@ const char* const UsageText =
     "      One page for the figure and one per deterministic level (default 5).\n"
     "  gif-info FILE.gif\n"
     "      Prints the frame table and loop count of a GIF as the movie viewer reads it.\n"
+    "  generate KIND [OPTIONS] -o OUT.ifs [--picture PICTURE [--levels L] [--size PIXELS]]\n"
+    "      Builds an IFS as the generator window KIND makes it with Create IFS and writes it\n"
+    "      as a one-entry list; with --picture also draws it (by the generator's own\n"
+    "      recursive drawing where it has one, else deterministically with --levels, else\n"
+    "      randomly). A value the window refuses gets its message and exit status 1. The\n"
+    "      generators and their options are listed below.\n"
     "  --bench [--points N] [--size PIXELS] [--colors MODE]\n"
     "      Measures the random drawing engine with 3 and 100 maps, in colour mode MODE.\n"
     "  --help\n"
     "      Prints this text.\n"
     "\n"
     "Exit status: 0 success, 1 error, 2 bad usage.\n";
+
+std::string FullUsageText() {
+    return std::string(UsageText) + "\nGenerators:\n" + GeneratorUsageText();
+}
 
 const char* const ColorModeNames[8] = {"ifs",          "height", "width",  "radial",
                                        "fixed-points", "random", "visits", "steal"};
@@ -289,6 +299,12 @@ ParseResult ParseCommandLine(const std::vector<std::string>& args) {
         Command cmd;
         cmd.kind = Command::Movie;
         if (auto bad = ParseMovieOptions(args, cmd.movie)) return usage(*bad);
+        return {cmd, ""};
+    }
+    if (c == "generate") {
+        Command cmd;
+        cmd.kind = Command::Generate;
+        if (auto bad = ParseGenerateOptions(args, cmd.generate)) return usage(*bad);
         return {cmd, ""};
     }
     if (c == "gif-info") {

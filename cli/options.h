@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/generate_command.h"
 #include "cli/movie_command.h"
 #include "cli/print_command.h"
 #include "core/workbench.h"
@@ -48,12 +49,13 @@ struct BenchOptions {
 };
 
 struct Command {
-    enum Kind { Help, List, Save, Render, Bench, Print, Movie, GifInfo } kind = Help;
+    enum Kind { Help, List, Save, Render, Bench, Print, Movie, GifInfo, Generate } kind = Help;
     std::vector<std::string> files;  // list: FILE; save: IN OUT
     RenderOptions render;
     BenchOptions bench;
     PrintOptions print;
     MovieOptions movie;
+    GenerateOptions generate;
 };
 
 // The parsed command, or the text of a usage error.
@@ -68,5 +70,7 @@ ParseResult ParseCommandLine(const std::vector<std::string>& args);
 bool ParseWholeNumber(const std::string& text, long long lo, long long hi, long long& out);
 
 extern const char* const UsageText;
+// UsageText followed by the usage of every generator.
+std::string FullUsageText();
 
 }  // namespace quillane::cli

@@ -27,6 +27,13 @@ check "render without -o is bad usage" status 2 "$cli" render "$data/default.ifs
 check "render to an unknown picture type is bad usage" status 2 "$cli" render "$data/default.ifs" -o "$work/x.tif"
 check "bad --window is bad usage" status 2 "$cli" render "$data/default.ifs" --window 1,0,0,1 -o "$work/x.png"
 
+check "generate box writes a one-entry list" status 0 "$cli" generate box --n 3 --remove "2,2" -o "$work/carpet.ifs"
+check "the generated list reads back with eight maps" test "$("$cli" list "$work/carpet.ifs")" = "$(printf '1\tUntitled\t8')"
+check "a refused generator input exits 1" status 1 "$cli" generate box --remove "1,1 1,2 2,1 2,2" -o "$work/none.ifs"
+check "with the window's message" grep -q "You cannot remove all the boxes" "$work/err"
+check "and writes no file" test ! -e "$work/none.ifs"
+check "an unknown generator is bad usage" status 2 "$cli" generate frobnicate -o "$work/x.ifs"
+
 check "list default.ifs" status 0 "$cli" list "$data/default.ifs"
 check "first line: number TAB name TAB maps" test "$(head -1 "$work/out")" = "$(printf '1\tSierpinski triangle\t3')"
 check "list names eleven entries" test "$(wc -l <"$work/out")" -eq 11

@@ -1,0 +1,15 @@
+#include "cli/generate_command.h"
+
+namespace quillane::cli {
+
+const std::vector<GeneratorCli>& CliGenerators() {
+    static const std::vector<GeneratorCli> generators{
+        BoxGeneratorCli(),
+        TriangleGeneratorCli(),
+        SymmetricGeneratorCli(),
+        SierpinskiGeneratorCli(),
+    };
+    return generators;
+}
+
+}  // namespace quillane::cli
