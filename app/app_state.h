@@ -3,6 +3,7 @@
 #include <array>
 
 #include "app/generator_run.h"
+#include "app/line_fractal_state.h"
 #include "app/preview_commands.h"
 #include "core/gradient_colors.h"
 #include "core/workbench.h"
@@ -20,6 +21,7 @@ struct AppState {
     // The generator window that is open, and what its Cancel restores.
     GeneratorRun Generator;
     PreviewState Preview;
+    LineFractalState Line;
 };
 
 }  // namespace quillane

@@ -114,6 +114,20 @@ void startLevel(Workbench& wb, FractalPictures& pics, bool overlay) {
     pics.Det.pgrIterateVisible = true;
 }
 
+// The generators' own recursions, in the order they are asked: trees first, then the line-based ones.
+bool recursiveLevel(Workbench& wb, FractalPictures& pics, Host& host) {
+    for (const size_t slot : {2u, 3u, 0u, 1u}) {
+        const RecursiveDrawer& draw = pics.Det.RecursiveDrawing[slot];
+        if (!draw || !draw(wb, pics, host)) continue;
+        pics.picImage4.takeImage(pics.picfractal);
+        TakeShiftImage(wb, pics);
+        pics.picImage3.takeImage(pics.picImage);
+        pics.Det.CountSuffix = RecursionSuffix;
+        return true;
+    }
+    return false;
+}
+
 void endLevel(Workbench& wb, FractalPictures& pics, bool picCoordWasVisible) {
     pics.Det.picCoordVisible = picCoordWasVisible;
     pics.Det.pgrIterateVisible = false;
@@ -167,8 +181,9 @@ void Iterate(Workbench& wb, FractalPictures& pics, Host& host, int Which) {
     const bool overlay = wb.menu("mnuDrawOverlay").checked;
     startLevel(wb, pics, overlay);
     pics.Det.picCoordVisible = false;
-    const bool done = overlay ? overlayLevel(wb, pics, host, Which, wb.IterationNumber + 1)
-                              : plainLevel(wb, pics, host, Which);
+    const bool done = recursiveLevel(wb, pics, host) ||
+                      (overlay ? overlayLevel(wb, pics, host, Which, wb.IterationNumber + 1)
+                               : plainLevel(wb, pics, host, Which));
     if (done && !pics.Det.IterationAbort) {
         TakeShiftImage(wb, pics);
         pics.picImage2.takeImage(pics.picfractal);

@@ -1,6 +1,7 @@
 #pragma once
 // What the deterministic drawing keeps between levels and between commands. Part of the fractal
 // window's pictures, so a test that makes fresh pictures starts from a fresh state.
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -22,6 +23,9 @@ using DetFigureDrawer = std::function<bool(Workbench& wb, FractalPictures& pics,
                                            bool ShowDialog, bool ResetWindow)>;
 // The colour of a gradient mode (1..4, 7) at a colouring position in world units.
 using DetGradientColor = std::function<Color(int mode, float x, float y)>;
+// A generator's own drawing of its IFS in place of a level; true when it drew. Slot k goes with
+// RecursionOff(k): 0 line fractal, 1 Koch, 2 binary tree, 3 Pythagorean tree.
+using RecursiveDrawer = std::function<bool(Workbench& wb, FractalPictures& pics, Host& host)>;
 
 struct DeterministicState {
     bool IterationAbort = false;
@@ -55,6 +59,7 @@ struct DeterministicState {
     // here takes the place of the gradient of the workbench.
     DetFigureDrawer FigureDrawer;
     DetGradientColor GradientColor;
+    std::array<RecursiveDrawer, 4> RecursiveDrawing;
     // The clipboard's bitmap for the clipboard figure; nothing when it holds none.
     std::function<std::optional<RasterSurface>()> ClipboardBitmap;
 
