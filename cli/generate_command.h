@@ -65,6 +65,7 @@ GeneratorCli BoxGeneratorCli();
 GeneratorCli TriangleGeneratorCli();
 GeneratorCli SymmetricGeneratorCli();
 GeneratorCli SierpinskiGeneratorCli();
+GeneratorCli LineGeneratorCli();
 
 // Every generator of the command line, in the order --help gives them.
 const std::vector<GeneratorCli>& CliGenerators();

@@ -8,6 +8,7 @@ const std::vector<GeneratorCli>& CliGenerators() {
         TriangleGeneratorCli(),
         SymmetricGeneratorCli(),
         SierpinskiGeneratorCli(),
+        LineGeneratorCli(),
     };
     return generators;
 }
