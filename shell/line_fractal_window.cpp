@@ -13,6 +13,7 @@
 
 #include "app/generator_run.h"
 #include "app/line_fractal_commands.h"
+#include "app/help_commands.h"
 #include "shell/help_commands.h"
 #include "shell/main_window.h"
 #include "shell/picture_widget.h"
@@ -193,7 +194,7 @@ void LineFractalWindow::connectControls() {
     connect(cmdSave_, &QPushButton::clicked, this, &LineFractalWindow::savePoints);
     connect(cmdSetup_, &QPushButton::clicked, this, &LineFractalWindow::create);
     connect(cmdHelp_, &QPushButton::clicked, this,
-            [this] { ShowHelpTopic(this->frame(), "howtoCreateLineFractalDesign.html"); });
+            [this] { ShowHelpTopic(this->frame(), LineFractalHelpTopic); });
     connect(picCanvas_, &PictureWidget::mousePressed, this,
             [this](QPointF world, Qt::MouseButton b, Qt::KeyboardModifiers) { canvasPress(world, b); });
     connect(picCanvas_, &PictureWidget::mouseMoved, this,
