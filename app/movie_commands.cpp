@@ -11,6 +11,7 @@
 #include "movies/morph_movie.h"
 #include "movies/movie_frame.h"
 #include "movies/movie_options.h"
+#include "render/fractal_overlays.h"
 #include "render/image_file.h"
 #include "render/scale.h"
 
@@ -95,6 +96,10 @@ void DrawMovieFrameInWindow(MovieCreator& mc, AppState& s, int frame) {
     DrawMovieFrame(mc.picCanvas, mc.morph.FrameIFS, mc.morph.InitialIFS, mc.morph.MovieMaps,
                    CLng(Val(mc.txtIterations)), s.wb.FunctionColor, s.wb.Rng);
     if (mc.ShowDesigns) drawFrameDesign(mc, s.wb);
+    if (mc.Axes) {
+        DrawFractalAxes(s.wb, mc.picCanvas);
+        if (mc.ShowDesigns) DrawFractalAxes(s.wb, mc.picdesign);
+    }
     mc.play.CurrentFrame = frame;
     mc.txtFrame = std::to_string(frame);
     if (mc.FrameShown) mc.FrameShown();
@@ -115,6 +120,8 @@ void MovieListClick(MovieCreator& mc, AppState& s, Host&) {
     mc.FractalView =
         FitMovieView(mc.morph.InitialIFS, mc.morph.FinalIFS, mc.morph.MovieMaps, figureVertices(s.wb));
     mc.DesignView = mc.FractalView;
+    mc.FittedFractalView = mc.FractalView;
+    mc.FittedDesignView = mc.DesignView;
     mc.picCanvas.resize(mc.SizeDim, mc.SizeDim);
     mc.picdesign.resize(mc.SizeDim, mc.SizeDim);
     ApplyMovieView(mc.picCanvas, mc.FractalView);

@@ -64,8 +64,11 @@ struct MovieCreator {
     std::string lblMsg;
     int pgrMakeMovie = 0;
     WorldWindow FractalView, DesignView;
-    bool ShowDesigns = true;  // mnuOptionsShowDesigns
-    int SizeDim = 300;        // picCanvas and picdesign side in pixels
+    WorldWindow FittedFractalView, FittedDesignView;  // as first fitted, for mnuViewRestore
+    bool ActiveViewFractal = true;                    // the view in the green box
+    bool Axes = false;                                // mnuOptionsAxes
+    bool ShowDesigns = true;                          // mnuOptionsShowDesigns
+    int SizeDim = 300;                                // picCanvas and picdesign side in pixels
     RasterSurface picCanvas, picdesign;
     bool MovieExists = false;
     // Called after each frame is drawn, so a window shows it before the next yield.

@@ -121,6 +121,18 @@ int64_t LineCount(const LineFractal& g, int depth) {
     return count;
 }
 
+int LimitRecursionLevel(const LineFractal& g, int L, double pixel) {
+    constexpr double NoLimit = 1e9;
+    double p = NoLimit;
+    if (g.MaxRatio > 0 && g.MaxRatio < 1 && pixel > 0) p = std::floor(std::log(pixel) / std::log(g.MaxRatio));
+    double q = NoLimit;
+    if (g.segments() >= 2) q = Round(std::log(1000000.0) / std::log(static_cast<double>(g.segments())));
+    p = std::clamp(p, -NoLimit, NoLimit);
+    double level = L;
+    if (level >= q - 1 || level >= p - 1) level = std::min(q - 1, p - 1);
+    return static_cast<int>(std::clamp(level, -1.0, NoLimit));
+}
+
 LineMaps LineFractalMaps(const LineFractal& g) {
     LineMaps out;
     const std::string text = upperTrimmed(g.txtOrient);

@@ -61,6 +61,11 @@ bool RecurseLines(const LineFractal& g, int depth, const LineSink& line);
 // The number of lines RecurseLines draws at `depth`, saturating at INT64_MAX.
 int64_t LineCount(const LineFractal& g, int depth);
 
+// The level a recursive drawing may reach from the deterministic level L, for a pixel of `pixel`
+// world units: held below the level where the longest segment shrinks to a pixel and below the one
+// where about a million lines are reached. Never below -1 (a depth of 0, one line).
+int LimitRecursionLevel(const LineFractal& g, int L, double pixel);
+
 // What Create IFS builds: the maps, or the segment whose length refused the build.
 struct LineMaps {
     IFSEntry ifs;  // a..f of the segments written before a refusal too

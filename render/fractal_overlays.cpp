@@ -127,9 +127,11 @@ void FractalGridAxesFP(const Workbench& wb, FractalPictures& pics) {
 void RedrawOverlays(const Workbench& wb, FractalPictures& pics) {
     pics.picfractal.takeImage(pics.picImage2);
     if (wb.TraceEnabled && wb.TracePointSet && pics.picMask.width() == pics.picfractal.width() &&
-        pics.picMask.height() == pics.picfractal.height())
+        pics.picMask.height() == pics.picfractal.height()) {
         pics.picfractal.paint(pics.picMask, pics.picfractal.scaleLeft(), pics.picfractal.scaleTop(),
                               RasterOp::And);
+        RepaintTraceDots(pics);
+    }
     FractalGridAxesFP(wb, pics);
 }
 

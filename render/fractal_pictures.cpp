@@ -60,6 +60,7 @@ void ClearImage(Workbench& wb, FractalPictures& pics, bool KeepPicture) {
     for (RasterSurface* s :
          {&pics.picfractal, &pics.picImage, &pics.picImage2, &pics.picMask, &pics.picImageShift})
         s->clear();
+    pics.TraceDots.clear();
     wb.DrawingActive = false;
     wb.PointCount = 0;
     pics.picCount.clear();

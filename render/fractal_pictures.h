@@ -44,6 +44,13 @@ struct FractalPictures {
     RasterSurface picImage;
     RasterSurface picMask;        // the drawing with the trace dots, ANDed back after an overlay goes
     RasterSurface picMaskShift;   // picMask at the present scale
+    // The dots of the trace since its point was set, in world units: ANDing picMask back mixes a
+    // coloured dot with a drawn pixel under it, so a removed overlay paints them again.
+    struct TraceDot {
+        double x, y, r;
+        Color color;
+    };
+    std::vector<TraceDot> TraceDots;
     RasterSurface picImage4;
     RasterSurface picPaste;       // the picture at its present size, floating or placed
     RasterSurface picImagePaste;  // the picture at its own size, which every resize starts from

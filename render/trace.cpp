@@ -47,12 +47,17 @@ Color stolenColor(Workbench& wb, FractalPictures& pics, int i, Color fallback) {
 
 }  // namespace
 
+void RepaintTraceDots(FractalPictures& pics) {
+    for (const FractalPictures::TraceDot& d : pics.TraceDots) dot(pics.picfractal, d.x, d.y, d.r, d.color);
+}
+
 void SetTracePoint(Workbench& wb, FractalPictures& pics, float& x, float& y) {
     pics.picfractal.takeImage(pics.picImage2);
     FractalGridAxesFP(wb, pics);
     pics.picMask.takeImage(pics.picImage2);
     const double r = dotRadius(wb, pics.picfractal);
     for (RasterSurface* s : {&pics.picfractal, &pics.picMask, &pics.picImage}) dot(*s, x, y, r, Black);
+    pics.TraceDots.assign(1, {x, y, r, Black});
     takeMaskShift(wb, pics);
     wb.TracePointSet = true;
     wb.TraceX = wb.TraceCurX = x;
@@ -93,6 +98,8 @@ void TraceStep(Workbench& wb, FractalPictures& pics, int Map) {
     }
     const double r = dotRadius(wb, pics.picfractal);
     for (RasterSurface* s : {&pics.picfractal, &pics.picMask, &pics.picImage}) dot(*s, x, y, r, c);
+    // A very long walk keeps its first million dots for repainting; the mask still holds the rest.
+    if (pics.TraceDots.size() < MaxTraceDots) pics.TraceDots.push_back({x, y, r, c});
     takeMaskShift(wb, pics);
     wb.TraceCurX = x;
     wb.TraceCurY = y;

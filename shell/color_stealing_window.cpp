@@ -206,6 +206,32 @@ void ColorStealingWindow::hideEvent(QHideEvent* event) {
     emit hidden();
 }
 
+void ColorStealingWindow::moveEvent(QMoveEvent* event) {
+    QDialog::moveEvent(event);
+    keepPlace();
+}
+
+void ColorStealingWindow::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    keepPlace();
+}
+
+void ColorStealingWindow::keepPlace() {
+    if (!isVisible()) return;
+    const QWidget* frame = parentWidget();
+    const QPoint from = frame ? frame->frameGeometry().topLeft() : QPoint();
+    const QRect g = frameGeometry();
+    const double dpiX = logicalDpiX(), dpiY = logicalDpiY();
+    const WindowPlace place{PixelsToTwips(g.left() - from.x(), dpiX), PixelsToTwips(g.top() - from.y(), dpiY),
+                            PixelsToTwips(g.width(), dpiX), PixelsToTwips(g.height(), dpiY)};
+    WindowPlace& kept = s_.wb.Windows.colorStealing;
+    if (place.left == kept.left && place.top == kept.top && place.width == kept.width &&
+        place.height == kept.height)
+        return;
+    kept = place;
+    s_.wb.SettingsChanged = true;
+}
+
 bool ColorStealingWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) lastActive_ = true;
     return QDialog::event(event);

@@ -60,9 +60,13 @@ class ColorStealingWindow : public QDialog {
   protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
 
   private:
+    // The window's place, from the frame's corner in twips, into the settings kept at exit.
+    void keepPlace();
     void build();
     QWidget* buildControls();
     QWidget* buildFullSize();

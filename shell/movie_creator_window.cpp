@@ -4,8 +4,12 @@
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QFrame>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,7 +17,9 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 
+#include "app/movie_view.h"
 #include "movies/movie_options.h"
 #include "shell/movie_dialogs.h"
 #include "shell/picture_widget.h"
@@ -79,9 +85,27 @@ MovieCreatorWindow::MovieCreatorWindow(AppState& s, Host& host,
     left->addWidget(lblMsg_);
     left->addWidget(pgrMakeMovie_);
     left->addStretch(1);
+    // Each picture stands in a box that turns green while it is the active view.
+    auto boxed = [this](PictureWidget* picture, bool fractal) {
+        auto* box = new QFrame(this);
+        auto* inner = new QVBoxLayout(box);
+        inner->setContentsMargins(3, 3, 3, 3);
+        inner->addWidget(picture);
+        connect(picture, &PictureWidget::mousePressed, this, [this, fractal] {
+            SetActiveMovieView(mc_, fractal);
+            markActiveView();
+        });
+        return box;
+    };
+    canvasBox_ = boxed(picCanvas_, true);
+    designBox_ = boxed(picdesign_, false);
+    auto* lblgreenbox = new QLabel(GreenBoxText, this);
+    lblgreenbox->setObjectName("lblgreenbox");
+    lblgreenbox->setWordWrap(true);
+    left->addWidget(lblgreenbox);
     auto* pictures = new QHBoxLayout;
-    pictures->addWidget(picCanvas_);
-    pictures->addWidget(picdesign_);
+    pictures->addWidget(canvasBox_);
+    pictures->addWidget(designBox_);
     auto* body = new QHBoxLayout;
     body->addLayout(left);
     body->addLayout(pictures, 1);
@@ -89,6 +113,8 @@ MovieCreatorWindow::MovieCreatorWindow(AppState& s, Host& host,
     layout->setMenuBar(bar);
     layout->addLayout(body);
     buildMenus(bar);
+    buildViewMenus(bar);
+    markActiveView();
     lblRotate_->setVisible(false);
     cmbRotate_->setVisible(false);
     setFocusPolicy(Qt::StrongFocus);
@@ -128,6 +154,7 @@ void MovieCreatorWindow::buildMenus(QMenuBar* bar) {
     add(file, "mnuFileSaveIFS", "Save Frame as &IFS", [this] { SaveFrameIFS(mc_, s_, host_); });
     add(file, "mnuFileQuit", "&Quit", [this] { close(); });
     QMenu* options = bar->addMenu("&Options");
+    options->setObjectName("mnuOptions");
     auto check = [&](const QString& name, const QString& text, bool on, std::function<void(bool)> f) {
         QAction* a = options->addAction(text);
         a->setObjectName(name);
@@ -161,6 +188,72 @@ void MovieCreatorWindow::buildMenus(QMenuBar* bar) {
     dirs->addAction(check("mnuOptionsRotDir(1)", "Clockwise", false, [this](bool on) {
         if (on) mc_.morph.RotDir = -1;
     }));
+}
+
+void MovieCreatorWindow::buildViewMenus(QMenuBar* bar) {
+    auto add = [this](QMenu* m, const QString& name, const QString& text, std::function<void()> f) {
+        QAction* a = m->addAction(text);
+        a->setObjectName(name);
+        connect(a, &QAction::triggered, this, [this, f = std::move(f)] {
+            takeText();
+            f();
+            showPictures();
+        });
+        return a;
+    };
+    QMenu* view = bar->addMenu("&View");
+    add(view, "mnuViewZoom(0)", "Zoom &In\tPage Up", [this] { mnuViewZoom_Click(mc_, s_, 0); });
+    add(view, "mnuViewZoom(1)", "Zoom &Out\tPage Down", [this] { mnuViewZoom_Click(mc_, s_, 1); });
+    view->addSeparator();
+    const char* shifts[] = {"Shift &Left\tLeft", "Shift &Right\tRight", "Shift &Up\tUp", "Shift &Down\tDown"};
+    for (int dir = 0; dir < 4; ++dir)
+        add(view, QString("mnuShiftDir(%1)").arg(dir), shifts[dir],
+            [this, dir] { mnuShiftDir_Click(mc_, s_, dir); });
+    view->addSeparator();
+    add(view, "mnuViewRestore", "&Restore View", [this] { mnuViewRestore_Click(mc_, s_); });
+
+    QMenu* size = bar->addMenu("&Size");
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const std::array<int, 3> sizes = MovieSizeChoices(screen ? screen->availableGeometry().height() : 768);
+    for (int k = 0; k < 3; ++k)
+        add(size, QString("mnuSizeDim(%1)").arg(k), QString::fromStdString(MovieSizeCaption(k, sizes[k])),
+            [this, px = sizes[k]] { SetMovieSize(mc_, s_, px); });
+    add(size, "mnuSizeDim(3)", "&Other Size...", [this] {
+        QDialog d(this);
+        d.setObjectName("frmMovieSize");
+        d.setWindowTitle(MovieSizeTitle);
+        auto* text = new QLineEdit(QString::number(mc_.SizeDim), &d);
+        text->setObjectName("txtSize");
+        auto* form = new QFormLayout(&d);
+        form->addRow(MovieSizeLabel, text);
+        form->addRow(new QLabel(MovieSizeLimit, &d));
+        auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &d);
+        form->addRow(buttons);
+        std::optional<int> chosen;
+        connect(buttons, &QDialogButtonBox::accepted, &d, [&] {
+            chosen = MovieSizeFromText(text->text().toStdString(), host_);
+            if (chosen) d.accept();
+        });
+        connect(buttons, &QDialogButtonBox::rejected, &d, &QDialog::reject);
+        if (d.exec() == QDialog::Accepted && chosen) SetMovieSize(mc_, s_, *chosen);
+    });
+
+    QMenu* options = bar->findChild<QMenu*>("mnuOptions");
+    if (!options) return;
+    QAction* axes = options->addAction("Show &Axes");
+    axes->setObjectName("mnuOptionsAxes");
+    axes->setCheckable(true);
+    connect(axes, &QAction::toggled, this, [this](bool on) {
+        mnuOptionsAxes_Click(mc_, s_, on);
+        showPictures();
+    });
+}
+
+void MovieCreatorWindow::markActiveView() {
+    const QString on = "QFrame { border: 2px solid #00c000; }",
+                  off = "QFrame { border: 2px solid transparent; }";
+    canvasBox_->setStyleSheet(mc_.ActiveViewFractal ? on : off);
+    designBox_->setStyleSheet(mc_.ActiveViewFractal ? off : on);
 }
 
 QAction* MovieCreatorWindow::menuItem(const QString& name) const {
@@ -215,7 +308,7 @@ void MovieCreatorWindow::showPictures() {
     lblMsg_->setText(QString::fromStdString(mc_.lblMsg));
     pgrMakeMovie_->setVisible(mc_.pgrMakeMovie > 0);
     pgrMakeMovie_->setValue(mc_.pgrMakeMovie);
-    picdesign_->setVisible(mc_.ShowDesigns);
+    designBox_->setVisible(mc_.ShowDesigns);
     picCanvas_->setSurface(&mc_.picCanvas);
     picdesign_->setSurface(&mc_.picdesign);
     picCanvas_->repaint();
@@ -251,6 +344,26 @@ void MovieCreatorWindow::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_B:
             play(MovieMode::StepBackward);
             break;
+        case Qt::Key_PageUp:
+            mnuViewZoom_Click(mc_, s_, 0);
+            showPictures();
+            break;
+        case Qt::Key_PageDown:
+            mnuViewZoom_Click(mc_, s_, 1);
+            showPictures();
+            break;
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+        case Qt::Key_Down: {
+            const int dir = event->key() == Qt::Key_Left    ? 0
+                            : event->key() == Qt::Key_Right ? 1
+                            : event->key() == Qt::Key_Up    ? 2
+                                                            : 3;
+            mnuShiftDir_Click(mc_, s_, dir);
+            showPictures();
+            break;
+        }
         default:
             QWidget::keyPressEvent(event);
     }

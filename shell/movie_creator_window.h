@@ -7,6 +7,7 @@
 #include "app/movie_commands.h"
 
 class QComboBox;
+class QFrame;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -49,6 +50,9 @@ class MovieCreatorWindow : public QWidget {
     void listClicked();
     void takeText();
     void showPictures();
+    void buildViewMenus(QMenuBar* bar);
+    // The green box around the active view.
+    void markActiveView();
     AppState& s_;
     Host& host_;
     std::function<void(const QString&, const QString&)> showMovie_;
@@ -61,6 +65,7 @@ class MovieCreatorWindow : public QWidget {
     QPushButton* play_[4];
     QPushButton* cmdStop_;
     PictureWidget *picCanvas_, *picdesign_;
+    QFrame *canvasBox_, *designBox_;
 };
 
 }  // namespace quillane

@@ -11,6 +11,8 @@
 #include <filesystem>
 
 #include "core/menu_tree.h"
+#include "core/settings_file.h"
+#include "core/window_positions.h"
 #include "shell/picture_widget.h"
 #include "shell/pixel_coloring_window.h"
 #include "tests/shell/frame_fixture.h"
@@ -74,6 +76,28 @@ TEST_F(ColorStealingTest, TheMenuItemOpensTheWindowOnTheDefaultPicture) {
     EXPECT_FALSE(wb().menu("mnuWin(14)").checked);
     item("mnuWin(14)")->trigger();
     EXPECT_TRUE(w.isVisible());
+}
+
+TEST_F(ColorStealingTest, TheWindowOpensAtItsKeptPlaceAndKeepsWhereItIsMoved) {
+    openOnList();
+    const double dpi = frame->logicalDpiX();
+    wb().Windows.colorStealing.left = PixelsToTwips(40, dpi);
+    wb().Windows.colorStealing.top = PixelsToTwips(30, dpi);
+    ColorStealingWindow& w = openWindow();
+    const QPoint corner = frame->frameGeometry().topLeft();
+    EXPECT_EQ(w.frameGeometry().topLeft() - corner, QPoint(40, 30));
+    wb().SettingsChanged = false;
+    w.move(w.pos() + QPoint(100, 60));
+    QApplication::processEvents();
+    EXPECT_EQ(wb().Windows.colorStealing.left, PixelsToTwips(140, dpi));
+    EXPECT_EQ(wb().Windows.colorStealing.top, PixelsToTwips(90, dpi));
+    EXPECT_EQ(wb().Windows.colorStealing.width, PixelsToTwips(w.frameGeometry().width(), dpi));
+    EXPECT_TRUE(wb().SettingsChanged);
+    // The settings file written at exit holds the new place.
+    const std::string text = SettingsText(wb());
+    const std::string place =
+        std::to_string(PixelsToTwips(140, dpi)) + "\n" + std::to_string(PixelsToTwips(90, dpi));
+    EXPECT_NE(text.find("[Color Stealing Window Position]\n" + place), std::string::npos) << text;
 }
 
 TEST_F(ColorStealingTest, AVisibleWindowStopsAMismatchedDrawingWithTheMessage) {

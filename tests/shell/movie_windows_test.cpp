@@ -11,6 +11,7 @@
 #include "shell/det_movie_dialog.h"
 #include "shell/movie_creator_window.h"
 #include "shell/movie_viewer.h"
+#include "shell/picture_widget.h"
 #include "tests/shell/frame_fixture.h"
 
 namespace quillane::testing {
@@ -56,6 +57,43 @@ TEST_F(MovieWindowsTest, TheCreatorListsTheFractalsAndPlaysTheMovie) {
     w.List2()->setCurrentRow(0);
     EXPECT_TRUE(w.cmbRotate()->isVisible());
     EXPECT_EQ(w.cmbRotate()->count(), 2);
+}
+
+TEST_F(MovieWindowsTest, TheViewKeysAndMenusActOnTheViewInTheGreenBox) {
+    openWithList();
+    MovieCreatorWindow& w = creator();
+    w.txtSteps()->setText("2");
+    w.txtIterations()->setText("1000");
+    w.List1()->setCurrentRow(0);
+    w.List2()->setCurrentRow(1);
+    MovieCreator& mc = w.creator();
+    const WorldWindow fitted = mc.FractalView;
+    EXPECT_TRUE(mc.ActiveViewFractal);
+    w.setFocus();
+    QTest::keyClick(&w, Qt::Key_PageUp);
+    EXPECT_LT(mc.FractalView.xmax - mc.FractalView.xmin, fitted.xmax - fitted.xmin);
+    QTest::keyClick(&w, Qt::Key_Left);
+    EXPECT_LT(mc.FractalView.xmin, fitted.xmin + (fitted.xmax - fitted.xmin) * 0.1f);
+    w.menuItem("mnuViewRestore")->trigger();
+    EXPECT_EQ(mc.FractalView.xmin, fitted.xmin);
+    // A click on the design picture moves the green box there.
+    auto pictures = w.findChildren<PictureWidget*>();
+    ASSERT_EQ(pictures.size(), 2);
+    QTest::mouseClick(pictures[1], Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_FALSE(mc.ActiveViewFractal);
+    EXPECT_TRUE(pictures[1]->parentWidget()->styleSheet().contains("#00c000"));
+    EXPECT_FALSE(pictures[0]->parentWidget()->styleSheet().contains("#00c000"));
+    w.menuItem("mnuViewZoom(1)")->trigger();
+    EXPECT_GT(mc.DesignView.xmax - mc.DesignView.xmin, fitted.xmax - fitted.xmin);
+    EXPECT_EQ(mc.FractalView.xmin, fitted.xmin);
+    ASSERT_NE(w.menuItem("mnuSizeDim(0)"), nullptr);
+    EXPECT_TRUE(w.menuItem("mnuSizeDim(0)")->text().startsWith("Small ("));
+    w.menuItem("mnuSizeDim(0)")->trigger();
+    EXPECT_EQ(mc.picCanvas.width(), mc.SizeDim);
+    EXPECT_GE(mc.SizeDim, 50);
+    ASSERT_NE(w.menuItem("mnuOptionsAxes"), nullptr);
+    w.menuItem("mnuOptionsAxes")->trigger();
+    EXPECT_TRUE(mc.Axes);
 }
 
 TEST_F(MovieWindowsTest, ASavedMovieOpensInTheViewer) {
