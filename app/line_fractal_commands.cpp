@@ -4,8 +4,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/deterministic_commands.h"
 #include "app/design_view.h"
+#include "app/deterministic_commands.h"
 #include "core/chaos_game.h"
 #include "core/fractal_list.h"
 #include "core/function_forms.h"
@@ -40,7 +40,8 @@ void takeMaps(IFSEntry& ifs, const LineMaps& maps, const LineFractal& g) {
     ifs.nMaps = static_cast<int16_t>(g.segments());
     const std::vector<std::string> comments = LineFractalComments(g);
     ifs.nComments = static_cast<int16_t>(std::min<size_t>(comments.size(), MaxComments));
-    for (int k = 1; k <= ifs.nComments; ++k) ifs.Comment[static_cast<size_t>(k)] = comments[static_cast<size_t>(k - 1)];
+    for (int k = 1; k <= ifs.nComments; ++k)
+        ifs.Comment[static_cast<size_t>(k)] = comments[static_cast<size_t>(k - 1)];
     ifs.Name = LineFractalName(g.nSegments);
 }
 

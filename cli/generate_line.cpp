@@ -42,7 +42,8 @@ std::optional<std::string> readOrient(const std::string& text, LineFractal& g) {
 // file is refused.
 GenerateOutcome readPolyline(AppState& s, CliHost& host, const std::vector<std::string>& args) {
     GeneratorArgs a;
-    if (auto bad = a.parse(args, {"--vertices", "--points", "--orient"}, {"--vertical"})) return {false, *bad};
+    if (auto bad = a.parse(args, {"--vertices", "--points", "--orient"}, {"--vertical"}))
+        return {false, *bad};
     const auto vertices = a.value("--vertices");
     const auto points = a.value("--points");
     if (vertices.has_value() == points.has_value()) return {false, "line needs --vertices or --points"};
@@ -51,7 +52,8 @@ GenerateOutcome readPolyline(AppState& s, CliHost& host, const std::vector<std::
         if (auto bad = readVertices(*vertices, g)) return {false, *bad};
         g.SegmentDirection = a.flag("--vertical") ? 1 : 0;
     } else {
-        if (a.flag("--vertical")) return {false, "--vertical goes with --vertices; a points file is horizontal"};
+        if (a.flag("--vertical"))
+            return {false, "--vertical goes with --vertices; a points file is horizontal"};
         std::ifstream in(*points, std::ios::binary);
         PointsFile file;
         if (!in) {
@@ -89,7 +91,8 @@ bool drawLine(AppState& s, CliHost& host, const std::vector<std::string>&, Raste
     const WorldWindow& w = s.wb.Window;
     const double cx = (static_cast<double>(w.xmin) + w.xmax) / 2;
     const double cy = (static_cast<double>(w.ymin) + w.ymax) / 2;
-    const double half = std::max(static_cast<double>(w.xmax) - w.xmin, static_cast<double>(w.ymax) - w.ymin) / 2;
+    const double half =
+        std::max(static_cast<double>(w.xmax) - w.xmin, static_cast<double>(w.ymax) - w.ymin) / 2;
     s.pics.resize(picture.width(), White);
     ApplyWindow(s.pics, WorldWindow{static_cast<float>(cx - half), static_cast<float>(cx + half),
                                     static_cast<float>(cy - half), static_cast<float>(cy + half)});

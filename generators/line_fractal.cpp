@@ -182,8 +182,8 @@ void ResetPolyline(LineFractal& g) {
     g.nSegments = n;
     for (int i = 0; i <= n; ++i) {
         const auto t = static_cast<float>(static_cast<double>(i) / n);
-        g.GeneratorPoints[static_cast<size_t>(i)] = g.SegmentDirection == 1 ? GeneratorPoint{0, t}
-                                                                            : GeneratorPoint{t, 0};
+        g.GeneratorPoints[static_cast<size_t>(i)] =
+            g.SegmentDirection == 1 ? GeneratorPoint{0, t} : GeneratorPoint{t, 0};
     }
     g.txtOrient = std::string(static_cast<size_t>(n), 'F');
 }

@@ -19,8 +19,7 @@ inline constexpr int MaxSegments = 15;
 inline constexpr int GeneratorPointSlots = MaxSegments + 1;
 
 inline constexpr const char* LineFractalCaption = "Line Fractal Design";
-inline constexpr const char* NotContractingMessage =
-    "IFS is not contracting.\nAdjust the red segment(s).   ";
+inline constexpr const char* NotContractingMessage = "IFS is not contracting.\nAdjust the red segment(s).   ";
 inline constexpr const char* OrientLetters = "FBAG";
 
 struct GeneratorPoint {

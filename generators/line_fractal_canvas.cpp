@@ -46,10 +46,20 @@ void halfArrow(RasterSurface& canvas, const LineFractal& g, int i) {
     int direction = 1, side = 1;
     Color color = SegmentForward;
     switch (OrientLetter(g, i)) {
-        case 'G': side = -1; break;
-        case 'B': direction = -1; color = SegmentBack; break;
-        case 'A': direction = -1; side = -1; color = SegmentBack; break;
-        default: break;
+        case 'G':
+            side = -1;
+            break;
+        case 'B':
+            direction = -1;
+            color = SegmentBack;
+            break;
+        case 'A':
+            direction = -1;
+            side = -1;
+            color = SegmentBack;
+            break;
+        default:
+            break;
     }
     const double theta = ATan2(q.y - p.y, q.x - p.x);
     const double s = 331.2 / (static_cast<double>(canvas.width()) * TwipsPerPixel);
@@ -90,10 +100,18 @@ void MoveView(LineCanvasView& v, ViewKey key) {
         case ViewKey::PageUp:
             v.xmin += ViewStep, v.ymin += ViewStep, v.xmax -= ViewStep, v.ymax -= ViewStep;
             break;
-        case ViewKey::Up: v.ymin += ViewStep, v.ymax += ViewStep; break;
-        case ViewKey::Down: v.ymin -= ViewStep, v.ymax -= ViewStep; break;
-        case ViewKey::Left: v.xmin -= ViewStep, v.xmax -= ViewStep; break;
-        case ViewKey::Right: v.xmin += ViewStep, v.xmax += ViewStep; break;
+        case ViewKey::Up:
+            v.ymin += ViewStep, v.ymax += ViewStep;
+            break;
+        case ViewKey::Down:
+            v.ymin -= ViewStep, v.ymax -= ViewStep;
+            break;
+        case ViewKey::Left:
+            v.xmin -= ViewStep, v.xmax -= ViewStep;
+            break;
+        case ViewKey::Right:
+            v.xmin += ViewStep, v.xmax += ViewStep;
+            break;
         case ViewKey::Home: {
             const LineCanvasView defaults;
             v.xmin = defaults.xmin, v.xmax = defaults.xmax, v.ymin = defaults.ymin, v.ymax = defaults.ymax;

@@ -25,7 +25,7 @@ inline constexpr const char* OrientWarning =
     "Use design polygon (outline) as initial set, with design polygon being horizontal or vertical "
     "line (default choices).";
 inline constexpr std::array<const char*, 4> OrientCaptions{"F = Fwd, Left", "B = Back, Left",
-                                                            "G = Fwd, Right", "A = Back, Right"};
+                                                           "G = Fwd, Right", "A = Back, Right"};
 
 struct LineCanvasView {
     float xmin = -0.02f, xmax = 1.02f, ymin = -0.52f, ymax = 0.52f;

@@ -118,7 +118,8 @@ PointsFile ReadPointsFile(std::string_view text) {
 }
 
 void ApplyPointsFile(LineFractal& g, const PointsFile& file) {
-    for (size_t i = 0; i < file.points.size() && i < GeneratorPointSlots; ++i) g.GeneratorPoints[i] = file.points[i];
+    for (size_t i = 0; i < file.points.size() && i < GeneratorPointSlots; ++i)
+        g.GeneratorPoints[i] = file.points[i];
     if (!file.error.empty()) return;
     g.nSegments = static_cast<int>(file.points.size()) - 1;
     g.txtOrient = file.letters.substr(0, static_cast<size_t>(g.nSegments));

@@ -12,8 +12,8 @@
 #include <QVBoxLayout>
 
 #include "app/generator_run.h"
-#include "app/line_fractal_commands.h"
 #include "app/help_commands.h"
+#include "app/line_fractal_commands.h"
 #include "shell/help_commands.h"
 #include "shell/main_window.h"
 #include "shell/picture_widget.h"
@@ -160,7 +160,8 @@ void LineFractalWindow::buildControls() {
 void LineFractalWindow::connectControls() {
     connect(cmbEdges_, &QComboBox::currentIndexChanged, this, &LineFractalWindow::cmbEdgesChanged);
     for (int k = 0; k < 2; ++k) {
-        connect(cmdEdgeChange_[static_cast<size_t>(k)], &QPushButton::clicked, this, [this, k] { cmdEdgeChange(k); });
+        connect(cmdEdgeChange_[static_cast<size_t>(k)], &QPushButton::clicked, this,
+                [this, k] { cmdEdgeChange(k); });
         connect(optDirection_[static_cast<size_t>(k)], &QRadioButton::clicked, this,
                 [this, k] { optDirectionClick(k); });
     }
@@ -200,7 +201,9 @@ void LineFractalWindow::connectControls() {
     connect(picCanvas_, &PictureWidget::mouseMoved, this,
             [this](QPointF world, Qt::KeyboardModifiers) { canvasMove(world); });
     connect(picCanvas_, &PictureWidget::mouseReleased, this,
-            [this](QPointF, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint global) { canvasRelease(b, m, global); });
+            [this](QPointF, Qt::MouseButton b, Qt::KeyboardModifiers m, QPoint global) {
+                canvasRelease(b, m, global);
+            });
 }
 
 void LineFractalWindow::applyView() {

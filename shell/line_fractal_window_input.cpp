@@ -39,8 +39,8 @@ void LineFractalWindow::canvasMove(QPointF world) {
         redraw();
         redrawPreview(PreviewDepth);
     }
-    lblCoord_->setText(QString::fromStdString("(" + Format(world.x(), "0.000") + ", " +
-                                              Format(world.y(), "0.000") + ")"));
+    lblCoord_->setText(
+        QString::fromStdString("(" + Format(world.x(), "0.000") + ", " + Format(world.y(), "0.000") + ")"));
 }
 
 void LineFractalWindow::snapPoint(int i) {
@@ -49,7 +49,8 @@ void LineFractalWindow::snapPoint(int i) {
     p.y = SnapValue(p.y, view_.GridY);
 }
 
-void LineFractalWindow::canvasRelease(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint global) {
+void LineFractalWindow::canvasRelease(Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
+                                      QPoint global) {
     if (Dragging) {
         if (view_.chkGrid && (modifiers & Qt::ShiftModifier) && view_.SelectedPoint > 0) {
             snapPoint(view_.SelectedPoint);
@@ -98,11 +99,15 @@ bool LineFractalWindow::viewKey(int key, Qt::KeyboardModifiers modifiers) {
     } else if (ctrl && alt && key == Qt::Key_P) {
         setPoint();
     } else {
-        static const std::pair<int, ViewKey> keys[] = {
-            {Qt::Key_PageDown, ViewKey::PageDown}, {Qt::Key_PageUp, ViewKey::PageUp}, {Qt::Key_Up, ViewKey::Up},
-            {Qt::Key_Down, ViewKey::Down},         {Qt::Key_Left, ViewKey::Left},     {Qt::Key_Right, ViewKey::Right},
-            {Qt::Key_Home, ViewKey::Home}};
-        const auto found = std::find_if(std::begin(keys), std::end(keys), [&](auto& k) { return k.first == key; });
+        static const std::pair<int, ViewKey> keys[] = {{Qt::Key_PageDown, ViewKey::PageDown},
+                                                       {Qt::Key_PageUp, ViewKey::PageUp},
+                                                       {Qt::Key_Up, ViewKey::Up},
+                                                       {Qt::Key_Down, ViewKey::Down},
+                                                       {Qt::Key_Left, ViewKey::Left},
+                                                       {Qt::Key_Right, ViewKey::Right},
+                                                       {Qt::Key_Home, ViewKey::Home}};
+        const auto found =
+            std::find_if(std::begin(keys), std::end(keys), [&](auto& k) { return k.first == key; });
         if (found == std::end(keys)) return false;
         MoveView(view_, found->second);
         applyView();

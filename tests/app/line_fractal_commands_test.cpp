@@ -7,8 +7,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "app/deterministic_commands.h"
 #include "app/design_view.h"
+#include "app/deterministic_commands.h"
 #include "core/fractal_list.h"
 #include "core/initial_polygons.h"
 #include "core/menu_tree.h"
@@ -191,7 +191,8 @@ int nearestSetPixel(const RasterSurface& pic, int c, int r, int within) {
         for (int dc = -within; dc <= within; ++dc) {
             const int cc = c + dc, rr = r + dr;
             if (cc < 0 || rr < 0 || cc >= pic.width() || rr >= pic.height()) continue;
-            if (pic.pixel(cc, rr) != pic.backColor()) best = std::min(best, std::max(std::abs(dc), std::abs(dr)));
+            if (pic.pixel(cc, rr) != pic.backColor())
+                best = std::min(best, std::max(std::abs(dc), std::abs(dr)));
         }
     return best;
 }
@@ -240,7 +241,7 @@ TEST_F(LineFractalCommandsTest, RecursionIsLimitedByCountAndPixel) {
     f.MaxRatio = 1.0f / 15;
     EXPECT_EQ(LimitRecursionLevel(f, 2, 1e-6), 2);
     EXPECT_EQ(LimitRecursionLevel(f, 2, 0.001), 1);  // (1/15)^2 is already near a pixel
-    EXPECT_EQ(LimitRecursionLevel(f, 9, 1e-9), 4);  // about a million lines: 15^5
+    EXPECT_EQ(LimitRecursionLevel(f, 9, 1e-9), 4);   // about a million lines: 15^5
     f.nSegments = 2;
     f.MaxRatio = 0.5f;
     EXPECT_EQ(LimitRecursionLevel(f, 30, 0.001), 8);  // 0.5^9 is below a pixel of 0.001

@@ -1,4 +1,6 @@
 // The Line Fractal Design window driven by clicks, keys and drags, from Design > Examples to Close.
+#include "shell/line_fractal_window.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,7 +13,6 @@
 #include <QTimer>
 
 #include "app/generator_run.h"
-#include "shell/line_fractal_window.h"
 #include "shell/picture_widget.h"
 #include "tests/shell/frame_fixture.h"
 
