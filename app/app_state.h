@@ -3,6 +3,7 @@
 #include <array>
 
 #include "app/generator_run.h"
+#include "app/line_fractal_state.h"
 #include "app/preview_commands.h"
 #include "core/gradient_colors.h"
 #include "core/workbench.h"
@@ -23,6 +24,7 @@ struct AppState {
     PreviewState Preview;
     // The complex bases' own drawing: its base, digit row and counts.
     ComplexBaseState Complex;
+    LineFractalState Line;
 };
 
 }  // namespace quillane

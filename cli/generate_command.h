@@ -70,6 +70,7 @@ GeneratorCli ComplexGeneratorCli();
 GeneratorCli BinaryTreeGeneratorCli();
 GeneratorCli PythagoreanGeneratorCli();
 GeneratorCli KochGeneratorCli();
+GeneratorCli LineGeneratorCli();
 
 // Every generator of the command line, in the order --help gives them.
 const std::vector<GeneratorCli>& CliGenerators();

@@ -13,6 +13,7 @@ const std::vector<GeneratorCli>& CliGenerators() {
         BinaryTreeGeneratorCli(),
         PythagoreanGeneratorCli(),
         KochGeneratorCli(),
+        LineGeneratorCli(),
     };
     return generators;
 }

@@ -10,6 +10,7 @@
 #include "shell/main_window.h"
 #include "shell/pythagorean_window.h"
 #include "shell/koch_window.h"
+#include "shell/line_fractal_window.h"
 #include "shell/sierpinski_window.h"
 #include "shell/symmetric_window.h"
 #include "shell/tiling_settings_window.h"
@@ -19,6 +20,7 @@
 namespace quillane {
 
 void RegisterGeneratorCommands(MainWindow& frame) {
+    RegisterGenerator(frame, LineFractalsExample, [](MainWindow& f) { return new LineFractalWindow(f); });
     RegisterGenerator(frame, BoxFractalsExample, [](MainWindow& f) { return new BoxFractalWindow(f); });
     RegisterGenerator(frame, TriangleFractalsExample,
                       [](MainWindow& f) { return new TriangleFractalWindow(f); });
